@@ -1,0 +1,5 @@
+#pragma once
+
+#include "gnl_primitive.h"
+
+// The combinational cells will be declared here.

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+class GNL_GENERATOR;
+
+namespace gnl_detail {
+class element_registry;
+class option_set;
+} // namespace gnl_detail
+
+/// Generation languages, the values of `GNL_ELEMENT::get_gen_language`.
+enum GNL_LANGUAGE { GNL_QHDL = 0, GNL_VERILOG = 1, GNL_VHDL = 2, GNL_TCL = 3 };
+
+/// Order of names: bytes after folding A to Z to lower case, without a locale; the end of a string comes first.
+/// Comparator of every public map keyed by string, so that names are case-insensitive everywhere.
+struct LESS_C_STRING
+{
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const noexcept;
+};
+
+/// Base of everything in a design: ports, parameters, parameter arrays and generators.
+///
+/// An element that is constructed with a parent registers itself with it. Its registry key can only be computed once
+/// the whole object exists, so it waits on the parent's pending list until the first look-up or walk files it.
+class GNL_ELEMENT
+{
+public:
+    virtual bool is_port() const { return false; }
+    virtual bool is_parameter() const { return false; }
+    virtual bool is_generator() const { return false; }
+    virtual bool is_parameter_array() const { return false; }
+    /// The key under which the parent files the element; the name here.
+    virtual std::string generate_key() const;
+    /// The parent's hierarchical name, "|" and the name; the name alone without a parent.
+    virtual std::string get_hierarchical_name() const;
+    /// Unregisters the element.
+    virtual ~GNL_ELEMENT();
+
+    std::string const & get_name() const { return m_name; }
+    /// Renames the element and files it under its new key.
+    void change_name(std::string const & name);
+    /// Files the element anew, after something in its key has changed.
+    void re_register();
+    /// The generator that holds the element, null for a top generator or a free element. Not owned.
+    GNL_GENERATOR * get_parent() const { return m_parent; }
+
+    static int get_gen_language() { return m_language; }
+    static bool is_verilog() { return m_language == GNL_VERILOG; }
+    static bool is_vhdl() { return m_language == GNL_VHDL; }
+    static bool is_qhdl() { return m_language == GNL_QHDL; }
+    static bool is_tcl() { return m_language == GNL_TCL; }
+
+    /// Instance name of the parent, for a slice that of its array; "NULLSTR" without a parent.
+    std::string get_parent_instance_name() const;
+    /// Key of the parent, "" without one.
+    std::string get_parent_key() const;
+
+    /// Plain decimal.
+    static std::string convert_int_to_string(int value);
+
+protected:
+    GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name);
+    /// Takes parent and name and does not register: a copy is in no registry.
+    GNL_ELEMENT(GNL_ELEMENT const & other);
+    GNL_ELEMENT & operator=(GNL_ELEMENT const & other);
+
+    void set_name(std::string const & name) { m_name = name; }
+    static void set_gen_language(int language) { m_language = language; }
+
+    static int m_language; ///< process-wide generation language, a GNL_LANGUAGE
+
+private:
+    friend class gnl_detail::element_registry;
+    friend class gnl_detail::option_set;
+
+    static constexpr std::uint32_t unregistered = 0xffffffffU;
+
+    GNL_GENERATOR * m_parent; ///< not owned
+    std::string m_name;
+    std::uint32_t m_slot = unregistered; ///< place in the parent's registry, for constant-time removal
+};
