@@ -470,7 +470,8 @@ public:
     void dump_vhdl_generic_section_for_wrapper(std::ostream & out);
     void dump_vhdl_parameter_mappings_for_wrapper(std::ostream & out);
     void dump_vhdl_connections_for_wrapper(std::ostream & out);
-    /// Library text before its first "." to the whole entry.
+    /// The "library.package" entries of `get_vhdl_library`, each under itself, so that two packages of one library
+    /// stay two. Defined in writers/gnl_generator_vhdl_libraries.cpp, as the next.
     std::map<std::string, std::string, LESS_C_STRING> get_vhdl_library_list();
     void add_to_vhdl_library_list(std::map<std::string, std::string, LESS_C_STRING> & list, std::string const & library,
                                   bool no_component_declarations);
@@ -500,7 +501,7 @@ public:
     /// Defined in stubs/gnl_generator_stubs.cpp. These do nothing yet.
     /// @{
     void generate_include_file(std::ostream & out);
-    void generate_stub_files();
+    bool generate_stub_files();
     /// @}
 
     /// @name Simulation-only items

@@ -1,0 +1,5 @@
+#include "gnl_generator.h"
+
+// Bus interface connections are not built yet.
+
+void GNL_GENERATOR::update_vorlan_interface_connections() {}
