@@ -44,12 +44,12 @@ void description_writer::port(GNL_PORT & port, GNL_GENERATOR * level, bool with_
         m_pending.emplace_back(of);
 }
 
-void description_writer::call(action piece)
+void description_writer::call(action step)
 {
     if (m_pending.empty())
-        piece(m_out);
+        step(m_out);
     else
-        m_pending.emplace_back(std::move(piece));
+        m_pending.emplace_back(std::move(step));
 }
 
 void description_writer::write(piece & next)

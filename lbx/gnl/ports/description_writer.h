@@ -46,7 +46,7 @@ public:
     void text(std::string_view text);
     void port(GNL_PORT & port, GNL_GENERATOR * level, bool with_index, GNL_PORT * target);
     /// For texts and messages that depend on the moment, such as a hole that is reported when it is written.
-    void call(action piece);
+    void call(action step);
 
 private:
     struct reference
