@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# usage: table.sh FOLDER_OF_THE_PROGRAMS [WORKLOAD...]
+# The benchmark table: medians of RUNS (5) runs, each in a process of its own.
+set -euo pipefail
+
+bin=$1
+shift
+runs=${RUNS:-5}
+workloads=("$@")
+[ ${#workloads[@]} -gt 0 ] || workloads=(W1 W2a W2b W3 W4 W5 W5s)
+
+sizes() {
+  case $1 in
+    W1) echo 1000 10000 100000 1000000 ;;
+    W2a | W2b) echo 100 1000 10000 100000 ;;
+    W3) echo 100 1000 10000 100000 ;;
+    W4) echo 100 1000 10000 ;;
+    W5) echo 6 12 18 ;;
+    W5s) echo 1000 10000 100000 ;;
+  esac
+}
+
+# program workload n: the run of median time, as "build write kilobytes bytes"
+median() {
+  for _ in $(seq "$runs"); do "$1" "$2" "$3"; done | awk '{print $3 + $4, $3, $4, $5, $6}' | sort -n |
+    awk -v m=$(((runs + 1) / 2)) 'NR == m {print $2, $3, $4, $5}'
+}
+
+empty=$("$bin/lbx_bench" empty 0 | awk '{print $5}')
+printf '%-4s %8s %9s %9s %10s %9s %11s %7s %7s\n' load N build_s write_s ns/object B/object bytes MB/s floors
+for workload in "${workloads[@]}"; do
+  previous=
+  for n in $(sizes "$workload"); do
+    read -r build write kilobytes bytes < <(median "$bin/lbx_bench" "$workload" "$n")
+    read -r floor_build floor_write _ _ < <(median "$bin/lbx_bench_floor" "$workload" "$n")
+    awk -v w="$workload" -v n="$n" -v b="$build" -v s="$write" -v k="$kilobytes" -v e="$empty" -v y="$bytes" \
+      -v fb="$floor_build" -v fs="$floor_write" 'BEGIN {
+        t = b + s; f = fb + fs
+        printf "%-4s %8d %9.4f %9.4f %10.0f %9.0f %11d %7.0f %7.1f\n", w, n, b, s, t / n * 1e9, (k - e) * 1024 / n, y,
+          (s > 0 ? y / s / 1e6 : 0), (f > 0 ? t / f : 0) }'
+    if [ -n "$previous" ]; then last="$previous $n $build $write"; fi
+    previous="$n $build $write"
+  done
+  echo "$last" | awk -v w="$workload" \
+    '{printf "%-4s growth exponent from %d to %d: %.2f\n", w, $1, $4, log(($5 + $6) / ($2 + $3)) / log($4 / $1)}'
+done

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# usage: demo.sh BUILD_FOLDER OUTPUT_FOLDER
+# Generates every example as Verilog and as a Tcl port list, and compiles the Verilog.
+set -euo pipefail
+
+build=$1 out=$2
+lbxgen=("$build/frontend/lbxgen" --plugin "$build/examples/lbx_examples.so")
+
+mkdir -p "$out/verilog" "$out/tcl"
+"${lbxgen[@]}" list | while read -r name summary; do
+  echo "$name: $summary"
+  "${lbxgen[@]}" generate "$name" -d "$out/verilog" -o "$name.v" -l verilog >/dev/null
+  "${lbxgen[@]}" generate "$name" -d "$out/tcl" -o "$name.tcl" -l tcl >/dev/null
+  iverilog -g2005 -t null "$out/verilog/$name.v"
+done
+echo
+echo "Verilog, compiled by Icarus Verilog: $out/verilog"
+echo "Tcl port lists:                      $out/tcl"

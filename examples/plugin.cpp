@@ -1,0 +1,3 @@
+#include "lbx_plugin.h"
+
+LBX_PLUGIN

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "plugin_catalogue.h"
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace lbxgen {
+
+/// How the program ends, from the result of a generation on.
+enum exit_status { fine = 0, errors = 1, not_supported = 2, subdesign_not_supported = 3, wrong_usage = 64 };
+
+/// Where a command writes, and how.
+struct output
+{
+    std::ostream & results;
+    std::ostream & messages;
+    bool json = false;
+    bool coloured = false; ///< messages go to a terminal
+};
+
+/// What `generate` and `ports` are asked for.
+struct request
+{
+    std::string generator;
+    std::vector<std::string> parameters; ///< "NAME=value"
+    std::string language;                ///< "" leaves the choice to the file name
+    std::string file;
+    std::string directory;
+    bool all = false; ///< `parameters` lists the options too
+};
+
+int list_generators(plugin_catalogue const & catalogue, output const & out);
+int list_parameters(plugin_catalogue const & catalogue, request const & wanted, output const & out);
+int list_ports(plugin_catalogue const & catalogue, request const & wanted, output const & out);
+int generate(plugin_catalogue const & catalogue, request const & wanted, output const & out);
+
+} // namespace lbxgen
