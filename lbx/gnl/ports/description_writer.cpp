@@ -16,15 +16,21 @@ bool holds_others(GNL_PORT const & port)
 
 void description_writer::run(GNL_PORT & port, GNL_GENERATOR * level, bool with_index, GNL_PORT * target)
 {
-    m_stack.emplace_back(reference{&port, level, target, with_index});
+    this->port(port, level, with_index, target);
+    stack_pending();
     while (!m_stack.empty()) {
         piece next = std::move(m_stack.back());
         m_stack.pop_back();
         write(next);
-        m_stack.insert(m_stack.end(), std::make_move_iterator(m_pending.rbegin()),
-                       std::make_move_iterator(m_pending.rend()));
-        m_pending.clear();
+        stack_pending();
     }
+}
+
+void description_writer::stack_pending()
+{
+    m_stack.insert(m_stack.end(), std::make_move_iterator(m_pending.rbegin()),
+                   std::make_move_iterator(m_pending.rend()));
+    m_pending.clear();
 }
 
 void description_writer::text(std::string_view text)

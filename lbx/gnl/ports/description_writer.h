@@ -58,6 +58,7 @@ private:
     };
     using piece = std::variant<std::string, reference, action>;
 
+    void stack_pending();
     void write(piece & next);
     void describe(reference const & of);
 

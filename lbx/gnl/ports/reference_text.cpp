@@ -1,0 +1,93 @@
+#include "reference_text.h"
+
+namespace gnl_detail {
+
+port_place::port_place(GNL_PORT const & port)
+    : m_port(port)
+    , m_parent(port.get_parent())
+{
+}
+
+bool port_place::among_slices() const
+{
+    GNL_GENERATOR const * const all = array();
+    return all && all->get_array_width() > 1;
+}
+
+GNL_PORT * port_place::on_array() const
+{
+    GNL_GENERATOR * const all = array();
+    return all ? all->get_port_object(m_port.get_name()) : nullptr;
+}
+
+bool port_place::connected_as_whole() const
+{
+    GNL_PORT const * const whole = on_array();
+    return whole && whole->check_is_used_flag();
+}
+
+bool port_place::has_output_signals_in_qhdl() const
+{
+    return m_parent && m_parent->uses_custom_subdesign_insert_mode() && m_parent->uses_custom_qhdl_output();
+}
+
+void write_instance_subscript(std::ostream & out, GNL_PORT const & port, bool range_if_uneven)
+{
+    port_place const place(port);
+    if (place.slices() >= 1 && range_if_uneven && place.in_heterogeneous_array())
+        out << "[" << place.slices() - 1 << "..0]";
+    else if (place.slices() >= 1)
+        out << "[]";
+    else if (place.is_slice())
+        out << "[" << place.slice_index() << "]";
+}
+
+void write_qhdl_range(std::ostream & out, int width, bool with_index)
+{
+    if (width < 1)
+        return;
+    if (with_index)
+        out << "[" << width - 1 << "..0]";
+    else
+        out << "[]";
+}
+
+int shown_width(GNL_PORT & port)
+{
+    return port_place(port).slices() >= 1 ? port.get_original_width() : port.get_width();
+}
+
+void write_vhdl_range(std::ostream & out, int width)
+{
+    if (width > 1)
+        write_vhdl_part(out, width - 1, 0);
+    else if (width == 1)
+        out << "(0)";
+}
+
+void write_verilog_part(std::ostream & out, int high, int low)
+{
+    out << "[" << high << ":" << low << "]";
+}
+
+void write_vhdl_part(std::ostream & out, int high, int low)
+{
+    out << "(" << high << " DOWNTO " << low << ")";
+}
+
+port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level)
+{
+    bool const outside = port.get_parent() != level && (port.is_output() || port.is_bidir());
+    port_signal signal{port.get_source_name(outside), 0, port.get_width() > 0};
+    if (!outside)
+        return signal;
+    port_place const place(port);
+    if (place.among_slices() && place.connected_as_whole()) {
+        signal.low_bit = port.get_bus_width() * place.slice_index();
+        signal.is_vector = true;
+    } else if (place.slices() <= 1 && port.get_original_width() < 1)
+        signal.is_vector = port.is_vhdl_array_wire();
+    return signal;
+}
+
+} // namespace gnl_detail
