@@ -1,6 +1,9 @@
+#include "checks.h"
 #include "lbx_plugin.h"
 
 #include "gnl.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -22,11 +25,8 @@ protected:
     void update_legacy_parameter_values() override
     {
         int const log2_width = LOG2_WIDTH.get_value();
-        bool const legal = log2_width >= 1 && log2_width <= 10;
-        if (!legal)
-            generator_error("LOG2_WIDTH is " + std::to_string(log2_width), "A rotator has 2 to 1024 bits.",
-                            "Choose a LOG2_WIDTH from 1 to 10.");
-        WIDTH.update_default_value(1 << (legal ? log2_width : 1));
+        check_parameter(*this, "LOG2_WIDTH", log2_width, 1, 10);
+        WIDTH.update_default_value(1 << std::clamp(log2_width, 1, 10));
     }
 
     void rtl_body(std::ostream & out) override

@@ -1,3 +1,4 @@
+#include "checks.h"
 #include "lbx_plugin.h"
 
 #include "gnl.h"
@@ -27,6 +28,9 @@ protected:
     {
         int const lanes = LANES.get_value();
         int const width = WIDTH.get_value();
+        check_parameter(*this, "LANES", lanes, 1, 1024);
+        check_parameter(*this, "WIDTH", width, 2, 1024);
+        exit_if_error();
         for (int lane = 0; lane < lanes; ++lane) {
             int const from = (lanes - 1 - lane) * width;
             int const to = lane * width;

@@ -1,3 +1,4 @@
+#include "checks.h"
 #include "lbx_plugin.h"
 
 #include "gnl.h"
@@ -28,6 +29,9 @@ protected:
         MLIB_UINTEGER const & polynomial =
             POLYNOMIAL.is_used() ? POLYNOMIAL.get_value() : *POLYNOMIAL.get_default_value();
         int const width = WIDTH.get_value();
+        check_parameter(*this, "WIDTH", width, 1, 64);
+        check_parameter(*this, "DATA_WIDTH", DATA_WIDTH.get_value(), 1, 4096);
+        exit_if_error();
         std::vector<GNL_PORT *> state;
         for (int i = 0; i < width; ++i)
             state.push_back(&crc[i]);

@@ -1,6 +1,9 @@
+#include "checks.h"
 #include "lbx_plugin.h"
 
 #include "gnl.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -24,10 +27,8 @@ protected:
     void update_legacy_parameter_values() override
     {
         int const width = ADDRESS_WIDTH.get_value();
-        if (width < 1 || width > 16)
-            generator_error("ADDRESS_WIDTH is " + std::to_string(width), "A decoder has 1 to 16 address bits.",
-                            "Choose an ADDRESS_WIDTH from 1 to 16.");
-        OUTPUTS.update_default_value(1 << (width < 1 || width > 16 ? 1 : width));
+        check_parameter(*this, "ADDRESS_WIDTH", width, 1, 16);
+        OUTPUTS.update_default_value(1 << std::clamp(width, 1, 16));
     }
 
     void rtl_body(std::ostream & out) override

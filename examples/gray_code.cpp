@@ -1,3 +1,4 @@
+#include "checks.h"
 #include "lbx_plugin.h"
 
 #include "gnl.h"
@@ -20,6 +21,8 @@ protected:
     void rtl_body(std::ostream & out) override
     {
         int const width = WIDTH.get_value();
+        check_parameter(*this, "WIDTH", width, 1, 4096);
+        exit_if_error();
         gray[width - 1] = binary[width - 1];
         if (width > 1)
             gray.range(width - 2, 0) = binary.range(width - 1, 1) ^ binary.range(width - 2, 0);
@@ -47,6 +50,8 @@ public:
 protected:
     void rtl_body(std::ostream & out) override
     {
+        check_parameter(*this, "WIDTH", WIDTH.get_value(), 1, 4096);
+        exit_if_error();
         GNL_PORT * above = nullptr;
         for (int i = WIDTH.get_value() - 1; i >= 0; --i) {
             auto & bit = *new GNL_WIRE(this, "bit_" + std::to_string(i));

@@ -1,3 +1,4 @@
+#include "checks.h"
 #include "lbx_plugin.h"
 
 #include "gnl.h"
@@ -23,6 +24,8 @@ public:
 protected:
     void rtl_body(std::ostream & out) override
     {
+        check_parameter(*this, "WIDTH", WIDTH.get_value(), 1, 4096);
+        exit_if_error();
         GNL_PORT * carry = &cin;
         for (int i = 0; i < WIDTH.get_value(); ++i) {
             auto & propagate = a[i] ^ b[i];

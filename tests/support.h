@@ -42,12 +42,19 @@ private:
     fs::path m_folder;
 };
 
+/// The same for tests with a parameter.
+template <class PARAMETER>
+class in_folder_with_parameter : public in_folder, public ::testing::WithParamInterface<PARAMETER>
+{
+};
+
 /// A generator whose ports are made on the heap and whose body is a lambda; `dump_hdl` follows the body unless
 /// `dump` is false.
 class design : public GNL_GENERATOR
 {
 public:
-    explicit design(GNL_GENERATOR * parent, std::string const & name = "top", char const * text = "", int array_width = 0)
+    explicit design(GNL_GENERATOR * parent, std::string const & name = "top", char const * text = "",
+                    int array_width = 0)
         : GNL_GENERATOR(parent, name, text, array_width)
     {
     }
@@ -59,8 +66,14 @@ public:
             port.set_default_port_value(default_value);
         return port;
     }
-    GNL_PORT_OUTPUT & output(std::string const & name, int width = 0) { return *new GNL_PORT_OUTPUT(this, name, width, 0); }
-    GNL_PORT_BIDIR & bidir(std::string const & name, int width = 0) { return *new GNL_PORT_BIDIR(this, name, width, 0); }
+    GNL_PORT_OUTPUT & output(std::string const & name, int width = 0)
+    {
+        return *new GNL_PORT_OUTPUT(this, name, width, 0);
+    }
+    GNL_PORT_BIDIR & bidir(std::string const & name, int width = 0)
+    {
+        return *new GNL_PORT_BIDIR(this, name, width, 0);
+    }
     GNL_WIRE & wire(std::string const & name, int width = 0) { return *new GNL_WIRE(this, name, width, 0); }
     GNL_PARAMETER_INTEGER & integer(std::string const & name, int default_value = -1)
     {
@@ -160,7 +173,7 @@ inline void in_folder::TearDown()
 inline std::string error(std::string const & message, std::string const & cause = "", std::string const & action = "")
 {
     return "ERROR GNL_INTERNAL_ERROR: " + message + (cause.empty() ? "" : " CAUSE : " + cause)
-         + (action.empty() ? "" : " ACTION : " + action);
+           + (action.empty() ? "" : " ACTION : " + action);
 }
 
 using texts = std::vector<std::string>;
