@@ -1,8 +1,9 @@
 #include "lbx/gnl/core/option_set.h"
 
 #include "gnl_generator.h"
+#include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/element_registry.h"
-#include "lbx/gnl/core/text_values.h"
+#include "lbx/gnl/core/leading_integer.h"
 
 namespace gnl_detail {
 
@@ -23,10 +24,10 @@ option_set::~option_set() = default;
 
 bool option_set::declares(std::string_view name, option_id & id)
 {
-    if (name.size() < 8 || !equal_names(name.substr(0, 3), "LBX"))
+    if (name.size() < 8 || !equal_folded(name.substr(0, 3), "LBX"))
         return false;
     for (std::size_t i = 0; i < option_rows.size(); ++i)
-        if (equal_names(name, option_rows[i].name)) {
+        if (equal_folded(name, option_rows[i].name)) {
             id = static_cast<option_id>(i);
             return true;
         }

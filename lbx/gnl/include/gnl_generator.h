@@ -283,6 +283,9 @@ public:
 
 private:
     void parse_parameter_list();
+    bool assign_to_known_parameter(std::string const & name, std::string const & value);
+    /// The object of the level whose value of the option counts here, null while that level has none.
+    GNL_PARAMETER * deciding_option(gnl_detail::option_id id);
 
 public:
     /// @}
@@ -307,8 +310,13 @@ protected:
     GNL_PARAMETER * get_inherited_parameter_object(std::string const & name);
     GNL_PARAMETER_ARRAY * get_inherited_parameter_array_object(std::string const & name);
 
+private:
+    /// Runs `get_inheritable` on every generator below and on this one, once each, children first.
+    void gather_inheritable();
+
 public:
-    /// Names that the subdesigns inherit; below the top the objects are null. Internal.
+    /// Names that the subdesigns inherit, each with the object that takes the value given here; null where a value
+    /// cannot be taken. Internal.
     std::map<std::string, std::unique_ptr<GNL_PARAMETER>, LESS_C_STRING> const & inherited_parameters() const
     {
         return m_inherited_parameters;

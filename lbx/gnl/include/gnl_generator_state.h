@@ -66,6 +66,7 @@ struct generator_state
     bool subdesign_not_supported : 1 = false;
     bool no_vhdl_component_declarations : 1 = false;
     bool parameter_list_initialized : 1 = false;
+    bool inheritable_gathered : 1 = false; ///< `get_inheritable` has run
     bool append_mode : 1 = false;
     bool true_vhdl_parameter_array : 1 = false;
     bool vhdl_primitive : 1 = false;
