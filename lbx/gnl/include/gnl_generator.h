@@ -361,6 +361,8 @@ public:
     int check_list_of_subdesigns(std::string const & name, std::string const & header);
     void remove_from_list_of_subdesigns(std::string const & name);
     static bool search_list(std::map<std::string, std::string, LESS_C_STRING> const & list, std::string const & key);
+    /// Internal: what this top generator's run knows of the names that are taken (core/subdesign_names.h).
+    gnl_detail::subdesign_names & subdesign_names();
 
 protected:
     void set_full_file_name(std::string const & name);
@@ -440,7 +442,8 @@ public:
     /// Module frame: writers/gnl_generator_verilog_module.cpp, writers/gnl_generator_verilog_wires.cpp,
     /// writers/gnl_generator_verilog_parameters.cpp, writers/gnl_generator_verilog_wrapper.cpp. Connections:
     /// writers/gnl_generator_verilog_connections.cpp, writers/gnl_generator_verilog_instances.cpp,
-    /// writers/gnl_generator_verilog_defaults.cpp.
+    /// writers/gnl_generator_verilog_array_instances.cpp, writers/gnl_generator_verilog_defaults.cpp. For authors who
+    /// put Verilog together themselves: writers/gnl_generator_verilog_author_sections.cpp.
     /// @{
     void dump_verilog_module_section(std::ostream & out);
     void dump_verilog_port_section(std::ostream & out);
@@ -687,17 +690,20 @@ public:
 
 private:
     // Internal workers; each is defined beside its only user.
+    class generation_run;
+    class subdesign_naming;
     class design_file_writer;
     class subdesign_pass;
+    class header_line;
     class parameter_text_scanner;
     class slice_grouping;
-    class verilog_instance_writer;
 
     struct front_end_lists; ///< the `char **` lists handed to a front-end
 
     gnl_detail::generator_state m_state;
     std::unique_ptr<gnl_detail::element_registry> m_registry;
     std::unique_ptr<gnl_detail::option_set> m_options;
+    std::unique_ptr<gnl_detail::subdesign_names> m_subdesign_names; ///< on the top generator, while it runs
     std::map<std::string, std::unique_ptr<GNL_PARAMETER>, LESS_C_STRING> m_inherited_parameters;
     std::map<std::string, std::unique_ptr<GNL_PARAMETER_ARRAY>, LESS_C_STRING> m_inherited_parameter_arrays;
     std::vector<std::unique_ptr<GNL_ELEMENT>> m_delete_list; ///< substitutes and temporaries

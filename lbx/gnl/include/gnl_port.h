@@ -251,6 +251,7 @@ public:
     /// @{
     void set_qelvar_internal_option(std::string const & setting);
     void dump_qelvar_internal_options(std::ostream & out) const;
+    bool has_qelvar_internal_options() const { return m_internal_options && !m_internal_options->empty(); }
     /// @}
 
     /// @name Names
