@@ -41,7 +41,14 @@ protected:
                   GNL_PORT * target) override;
 
 private:
+    void replace_operand(GNL_PORT *& operand, GNL_PORT * port);
+    /// An operand that is an expression and must be settled before this one; null if there is none.
+    GNL_PORT_LOGIC * unsettled_operand() const;
+    void settle_std_logic();
+
     bool m_special_logic_port = false;
+    bool m_std_logic = false;            ///< the answer of `is_std_logic_port`
+    std::uint32_t m_std_logic_epoch = 0; ///< when it was found; 0 for never
     int m_operation;
     GNL_PORT * m_first_operand;  ///< not owned
     GNL_PORT * m_second_operand; ///< not owned, null for a NOT

@@ -15,7 +15,8 @@ std::string verilog_constant(std::string_view bits, int bus_width)
 {
     if (bits.empty())
         return {};
-    bool const uniform = bits.front() != 'x' && std::ranges::all_of(bits, [&](char bit) { return bit == bits.front(); });
+    bool const uniform =
+        bits.front() != 'x' && std::ranges::all_of(bits, [&](char bit) { return bit == bits.front(); });
     if (bus_width > 1 && uniform)
         return "{" + std::to_string(bus_width) + "{1'b" + bits.front() + "}}";
     return std::to_string(bus_width) + "'b" + std::string(bits);

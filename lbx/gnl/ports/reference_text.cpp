@@ -85,9 +85,23 @@ port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level)
     if (place.among_slices() && place.connected_as_whole()) {
         signal.low_bit = port.get_bus_width() * place.slice_index();
         signal.is_vector = true;
-    } else if (place.slices() <= 1 && port.get_original_width() < 1)
+    } else if (GNL_ELEMENT::is_vhdl() && place.slices() <= 1 && port.get_original_width() < 1)
         signal.is_vector = port.is_vhdl_array_wire();
     return signal;
+}
+
+void write_slice_part(std::ostream & out, GNL_PORT & port, bool with_index)
+{
+    port_place const place(port);
+    int const width = port.get_bus_width();
+    bool const of_array = place.connected_as_whole();
+    int const low = of_array ? width * place.slice_index() : 0;
+    if (GNL_ELEMENT::is_verilog())
+        write_verilog_part(out, low + width - 1, low);
+    else if (width > 1)
+        write_vhdl_part(out, low + width - 1, low);
+    else if (of_array || (with_index && signal_of(port, nullptr).is_vector))
+        out << "(" << low << ")";
 }
 
 } // namespace gnl_detail

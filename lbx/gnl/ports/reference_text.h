@@ -72,4 +72,8 @@ struct port_signal
 };
 port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level);
 
+/// What follows the signal of a slice's port in Verilog and VHDL: its part of the whole array's signal, or the range of
+/// its own one. In VHDL `with_index` asks for the index of a single bit.
+void write_slice_part(std::ostream & out, GNL_PORT & port, bool with_index);
+
 } // namespace gnl_detail
