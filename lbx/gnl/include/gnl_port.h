@@ -90,7 +90,7 @@ public:
     virtual std::string constant_driving_value(int index);
     /// The constant's binary digits, most significant first; "" without one.
     virtual std::string constant_driving_value();
-    /// The name of the signal in the text being written. Defined in ports/gnl_port_description.cpp.
+    /// The name of the signal in the text being written. Defined in ports/gnl_port_source_name.cpp.
     virtual std::string get_source_name(bool for_connection);
     /// Asks for a VHDL generate loop; without effect in the other languages.
     virtual void set_create_vhdl_loop();
@@ -107,8 +107,9 @@ public:
     virtual bool is_std_logic_port();
 
     /// @name Connections
-    /// Legal inside `rtl_body` only. Defined in ports/gnl_port_connection.cpp. The messages are those of
-    /// ports/port_messages.h. Every one returns this port, also after an error.
+    /// Legal inside `rtl_body` only. Defined in ports/gnl_port_connection.cpp, constants in
+    /// ports/gnl_port_constant_connection.cpp, `make_connection` in ports/gnl_port_range_connection.cpp. The messages are
+    /// those of ports/port_messages.h. Every one returns this port, also after an error.
     /// @{
 
     /// Drives this port with `rhs`. Its width must be that of `rhs` or a multiple, which repeats `rhs`.
@@ -147,7 +148,7 @@ public:
     /// @}
 
     /// @name Expressions
-    /// Defined in ports/gnl_port_logic.cpp. Equal expressions are one object, which the design owns.
+    /// Defined in ports/gnl_port_logic_operators.cpp. Equal expressions are one object, which the design owns.
     /// @{
     GNL_PORT_LOGIC & operator&(GNL_PORT & rhs);
     GNL_PORT_LOGIC & operator|(GNL_PORT & rhs);
@@ -161,7 +162,7 @@ public:
     /// @}
 
     /// @name State
-    /// Defined in ports/gnl_port.cpp.
+    /// Defined in ports/gnl_port.cpp, the comparisons in ports/gnl_port_comparison.cpp.
     /// @{
     GNL_PORT * get_driver() const { return m_driver; }
     MLIB_UINTEGER * constant_driving_value_as_mlib_int() const { return m_constant_value.get(); }
@@ -224,7 +225,8 @@ public:
     bool check_port_assignment(int low, int high);
     bool check_if_driven_at_bits(int low, int high);
     virtual bool are_all_bits_used() { return true; }
-    /// Whether the driver is a NOT of a simple port; a slice without a driver asks the array's port.
+    /// Whether the driver is a NOT of a simple port; a slice without a driver asks the array's port. Defined in
+    /// ports/gnl_port_source_name.cpp.
     bool has_inverted_port_driver();
 
     static bool check_port_equivalence_across_hierarchies(GNL_PORT * a, GNL_PORT * b);
@@ -274,6 +276,10 @@ protected:
     virtual void describe(gnl_detail::description_writer & writer, GNL_GENERATOR * level, bool with_index,
                           GNL_PORT * target);
     friend class gnl_detail::description_writer;
+
+    /// The concatenation that collects the pieces assigned to this port at `level`. The first piece makes it and marks a
+    /// pin as used. Defined in ports/gnl_port_range_connection.cpp.
+    GNL_PORT_CONCAT & driver_of_pieces(GNL_GENERATOR * level);
 
     /// Sets the width of an object that the operators make.
     void set_made_width(int width) { m_width = m_original_width = width; }

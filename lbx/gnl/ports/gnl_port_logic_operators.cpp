@@ -1,9 +1,7 @@
+#include "made_port.h"
 #include "port_messages.h"
 
 #include "lbx/gnl/core/element_registry.h"
-
-#include <memory>
-#include <vector>
 
 using namespace gnl_detail;
 
@@ -27,15 +25,9 @@ GNL_PORT_LOGIC * find_equal(GNL_PORT const & first, int operation, GNL_PORT cons
     return parent ? parent->registry().find_logic(operation, &first, second) : nullptr;
 }
 
-/// The design of `first` owns the expression. Without a design nobody does, but operators always answer an object: it
-/// lives as long as the program.
 GNL_PORT_LOGIC & make_logic(GNL_PORT & first, int operation, GNL_PORT * second)
 {
-    auto made = std::make_unique<GNL_PORT_LOGIC>(first.get_parent(), operation, &first, second);
-    if (first.get_parent())
-        return *made.release();
-    static std::vector<std::unique_ptr<GNL_PORT_LOGIC>> without_design;
-    return *without_design.emplace_back(std::move(made));
+    return make_port<GNL_PORT_LOGIC>(first.get_parent(), operation, &first, second);
 }
 
 /// Whether an input that is read has nothing to read from: neither a connection nor a default. A default is turned into

@@ -75,9 +75,10 @@ void bit_assignment::write_range(GNL_PORT_OUTPUT_RANGE & range) const
         low += step.get_low_index();
         base = step.get_range_driver();
     }
-    if (base && range.get_width() > 1)
-        m_out << base->get_source_name(range.get_parent() != m_level) << index(low);
-    else
+    if (base && range.get_width() > 1) {
+        port_signal const signal = signal_of(*base, m_level);
+        m_out << signal.name << index(signal.low_bit + low);
+    } else
         range.dump_port_description(m_out, m_level, true, nullptr);
 }
 
