@@ -47,7 +47,7 @@ public:
     bool has_bits_assigned(int low, int high);
     int get_elements_width();
     /// The element at position `index` from the highest down; null beyond the end. Owned by the concat.
-    GNL_SUBCONCAT * get_concat_element(int index);
+    GNL_SUBCONCAT * get_concat_element(int index) const;
     int get_element_count() const;
     bool element_is_range_port(int index);
     /// Replaces the element at `index` and takes ownership of `element`.
@@ -66,6 +66,8 @@ protected:
                   GNL_PORT * target) override;
 
 private:
+    void note_if_complete(GNL_SUBCONCAT const & element);
+
     std::unique_ptr<gnl_detail::concat_elements> m_elements;
     bool m_complete = false;
     bool m_need_index = false;

@@ -6,7 +6,7 @@
 class GNL_PORT_OUTPUT_RANGE : public GNL_PORT
 {
 public:
-    /// Posts `range_order` when `high` is below `low`.
+    /// Posts `range_order` when `high` is below `low`. Without a driver the range has no name and no bits.
     GNL_PORT_OUTPUT_RANGE(GNL_GENERATOR * parent, GNL_PORT * driver, int high, int low);
 
     bool is_range_port() const override { return true; }
@@ -27,6 +27,9 @@ public:
     void replace_range_driver(GNL_PORT * driver) { m_range_driver = driver; }
     int get_high_index() const { return m_high_index; }
     int get_low_index() const { return m_low_index; }
+    /// The port on which `range` was called, part of the key. It is not what the bits are selected from where a wire
+    /// had to be put in between. Not owned.
+    virtual GNL_PORT * get_key_port() const { return m_range_driver; }
     /// The level at which the range was made, part of its key; null outside of all bodies.
     GNL_GENERATOR * get_made_level() const { return m_made_level; }
     void set_made_level(GNL_GENERATOR * level) { m_made_level = level; }

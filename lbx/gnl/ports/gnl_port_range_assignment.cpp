@@ -1,0 +1,140 @@
+#include "gnl_port_range.h"
+
+#include "gnl_generator.h"
+#include "port_messages.h"
+#include "saturated.h"
+
+using gnl_detail::port_message;
+using gnl_detail::report;
+using gnl_detail::saturated;
+
+namespace {
+
+/// The port that an assignment to a range ends in, and its bits there.
+struct range_target
+{
+    GNL_PORT * port;
+    int high;
+    int low;
+    bool nested; ///< whether it was a range of a range
+};
+
+range_target target_of(GNL_PORT_OUTPUT_RANGE const & range)
+{
+    range_target target{range.get_range_driver(), range.get_high_index(), range.get_low_index(), false};
+    while (target.port && target.port->is_range_port()) {
+        auto const & inner = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*target.port);
+        target.high = saturated(static_cast<long long>(target.high) + inner.get_low_index());
+        target.low = saturated(static_cast<long long>(target.low) + inner.get_low_index());
+        target.port = inner.get_range_driver();
+        target.nested = true;
+    }
+    return target;
+}
+
+bool fits(int value, GNL_PORT & range)
+{
+    int const width = range.get_width();
+    if (value == 0 || value == 1 || width >= 32)
+        return true;
+    return value > 0 && width > 0 && static_cast<unsigned>(value) < 1U << width;
+}
+
+bool fits(MLIB_UINTEGER const & value, GNL_PORT & range)
+{
+    return value.bitwidth() <= range.get_bus_width();
+}
+
+std::string shown(int value)
+{
+    return GNL_ELEMENT::convert_int_to_string(value);
+}
+
+std::string shown(MLIB_UINTEGER const & value)
+{
+    return value.as_hex_string();
+}
+
+/// A constant of either kind; the level of the statement has been found already.
+template <class CONSTANT> void assign_constant(GNL_PORT_OUTPUT_RANGE & range, CONSTANT & value)
+{
+    GNL_GENERATOR const & parent = *range.get_parent();
+    GNL_GENERATOR * const level = range.get_connection_level();
+    std::string const name = range.get_hierarchical_name();
+    if (!level)
+        return report<port_message::range_constant_outside_body>(parent, name, shown(value));
+    if (!fits(value, range))
+        return report<port_message::range_constant_too_wide>(parent, name, range.get_bus_width(), shown(value));
+    range_target const target = target_of(range);
+    if (!target.port)
+        return;
+    if (!target.port->check_lhs(level))
+        return report<port_message::range_no_sink_for_constant>(parent, name, shown(value),
+                                                                level->get_hierarchical_name());
+    target.port->make_connection(value, target.high, target.low, level, true);
+}
+
+void assign_port(GNL_PORT_OUTPUT_RANGE & range, GNL_PORT & rhs)
+{
+    GNL_GENERATOR const & parent = *range.get_parent();
+    GNL_GENERATOR * const level = range.get_connection_level();
+    if (!level)
+        return report<port_message::assigned_outside_body>(parent, range.get_hierarchical_name(),
+                                                           rhs.get_hierarchical_name());
+    bool const widths_differ = range.get_bus_width() != rhs.get_bus_width();
+    if (widths_differ && !range.is_divisible(rhs.get_bus_width()))
+        report<port_message::range_widths_mismatched>(parent, range.get_hierarchical_name(), range.get_bus_width(),
+                                                      rhs.get_hierarchical_name(), rhs.get_bus_width());
+    if (rhs.is_range_port()) {
+        rhs.set_connection_level(level);
+        rhs.set_range_port_used();
+    }
+    range_target const target = target_of(range);
+    if (!target.port)
+        return;
+    if (!target.port->check_lhs(level))
+        return report<port_message::range_no_sink>(parent, range.get_hierarchical_name(), rhs.get_hierarchical_name(),
+                                                   level->get_hierarchical_name());
+    target.port->make_connection(rhs, target.high, target.low, level, true);
+    GNL_PORT * const driver = target.port->get_driver();
+    if (driver && (widths_differ || parent.get_array_width() > 0)) {
+        driver->set_connection_level(level);
+        if (target.nested)
+            driver->set_create_vhdl_loop();
+    }
+}
+
+} // namespace
+
+GNL_PORT & GNL_PORT_OUTPUT_RANGE::operator=(GNL_PORT & rhs)
+{
+    if (!get_parent())
+        return *this;
+    m_connection_level = find_connection_level();
+    assign_port(*this, rhs);
+    if (rhs.is_bidir()) {
+        bool const to_bidir = m_range_driver && m_range_driver->is_bidir();
+        rhs.check_bidir_validity(get_parent(), to_bidir, this);
+        if (to_bidir)
+            m_range_driver->set_has_special_bidir_driver();
+    }
+    return *this;
+}
+
+GNL_PORT & GNL_PORT_OUTPUT_RANGE::operator=(int value)
+{
+    if (!get_parent())
+        return *this;
+    m_connection_level = find_connection_level();
+    assign_constant(*this, value);
+    return *this;
+}
+
+GNL_PORT & GNL_PORT_OUTPUT_RANGE::operator=(MLIB_UINTEGER & value)
+{
+    if (!get_parent())
+        return *this;
+    m_connection_level = find_connection_level();
+    assign_constant(*this, value);
+    return *this;
+}

@@ -1,0 +1,140 @@
+#include "gnl_port_range.h"
+
+#include "description_writer.h"
+#include "gnl_generator.h"
+#include "reference_text.h"
+#include "saturated.h"
+
+#include "lbx/gnl/writers/text_sink.h"
+
+using gnl_detail::port_place;
+using gnl_detail::port_signal;
+using gnl_detail::saturated;
+using gnl_detail::signal_of;
+using gnl_detail::text_sink;
+
+namespace {
+
+/// What a range shows in the end: bits of a port that is no range.
+struct shown_bits
+{
+    GNL_PORT_OUTPUT_RANGE const * range; ///< the innermost range of the chain
+    int high;
+    int low;
+};
+
+/// The bits `first` down to `second` of `range`, or all of it when `first` is negative.
+shown_bits bits_of(GNL_PORT_OUTPUT_RANGE const & range, int first, int second)
+{
+    bool const all = first < 0;
+    shown_bits bits{&range,
+                    saturated(all ? range.get_high_index() : static_cast<long long>(first) + range.get_low_index()),
+                    saturated(all ? range.get_low_index() : static_cast<long long>(second) + range.get_low_index())};
+    while (bits.range->get_range_driver() && bits.range->get_range_driver()->is_range_port()) {
+        bits.range = static_cast<GNL_PORT_OUTPUT_RANGE const *>(bits.range->get_range_driver());
+        bits.high = saturated(static_cast<long long>(bits.high) + bits.range->get_low_index());
+        bits.low = saturated(static_cast<long long>(bits.low) + bits.range->get_low_index());
+    }
+    return bits;
+}
+
+void write_verilog(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)
+{
+    port_signal const signal = signal_of(*bits.range->get_range_driver(), level);
+    text << signal.name;
+    if (!signal.is_vector)
+        return;
+    text << "[" << saturated(static_cast<long long>(bits.high) + signal.low_bit);
+    if (bits.high != bits.low)
+        text << ":" << saturated(static_cast<long long>(bits.low) + signal.low_bit);
+    text << "]";
+}
+
+/// A target of one bit takes a bit and no vector of one element. The input of a subdesign takes what it was given.
+bool is_one_bit_in_vhdl(shown_bits const & bits, GNL_GENERATOR const * level, GNL_PORT const * target)
+{
+    if (!target)
+        return bits.high == bits.low;
+    return target->get_original_width() <= 0 || (bits.high == bits.low && target->get_parent() == level);
+}
+
+void write_vhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level, GNL_PORT const * target)
+{
+    port_signal const signal = signal_of(*bits.range->get_range_driver(), level);
+    text << signal.name;
+    if (!signal.is_vector)
+        return;
+    text << "(" << saturated(static_cast<long long>(bits.high) + signal.low_bit);
+    if (!is_one_bit_in_vhdl(bits, level, target))
+        text << " DOWNTO " << saturated(static_cast<long long>(bits.low) + signal.low_bit);
+    text << ")";
+}
+
+/// How QHDL reaches a port of a subdesign: its instance and the slices that the bits lie in.
+void write_instance(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)
+{
+    GNL_PORT & port = *bits.range->get_range_driver();
+    bool const driven_here =
+        port.is_bidir() && port.get_connection_level() == level && (port.get_driver() || port.is_driven_by_constant());
+    text << port.get_parent_instance_name();
+    if (driven_here || port_place(port).has_output_signals_in_qhdl()) {
+        text << "_";
+        return;
+    }
+    port_place const place(*bits.range);
+    if (place.is_slice())
+        text << "[" << place.slice_index() << "]";
+    else if (int const width = port.get_original_width(); place.slices() > 0 && width < 1)
+        text << "[" << bits.high << ".." << bits.low << "]";
+    else if (place.slices() > 0)
+        text << "[" << bits.high / width << ".." << bits.low / width << "]";
+    text << ".";
+}
+
+void write_qhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)
+{
+    GNL_PORT & port = *bits.range->get_range_driver();
+    if (port.get_parent() != level)
+        write_instance(text, bits, level);
+    text << port.get_source_name(bits.range->get_parent() != level);
+    if (port.get_width() == 0)
+        return;
+    int const width = port.get_original_width();
+    bool const within_slice = port_place(*bits.range).slices() > 0 && !port_place(port).has_output_signals_in_qhdl();
+    if (!within_slice)
+        text << "[" << bits.high << ".." << bits.low << "]";
+    else if (width > 0)
+        text << "[" << bits.high % width << ".." << bits.low % width << "]";
+}
+
+void write_bits(std::ostream & out, shown_bits const & bits, GNL_GENERATOR const * level, GNL_PORT const * target)
+{
+    if (!bits.range->get_range_driver())
+        return;
+    text_sink text(out);
+    if (GNL_ELEMENT::is_verilog())
+        write_verilog(text, bits, level);
+    else if (GNL_ELEMENT::is_vhdl())
+        write_vhdl(text, bits, level, target);
+    else
+        write_qhdl(text, bits, level);
+}
+
+} // namespace
+
+void GNL_PORT_OUTPUT_RANGE::describe(gnl_detail::description_writer & writer, GNL_GENERATOR * level, bool,
+                                     GNL_PORT * target)
+{
+    write_bits(writer.out(), bits_of(*this, -1, -1), level, target);
+}
+
+void GNL_PORT_OUTPUT_RANGE::dump_port_description(std::ostream & out, GNL_GENERATOR * level, bool, GNL_PORT * target)
+{
+    write_bits(out, bits_of(*this, -1, -1), level, target);
+}
+
+void GNL_PORT_OUTPUT_RANGE::dump_port_description(std::ostream & out, GNL_GENERATOR * level, bool, GNL_PORT * target,
+                                                  int first, int second)
+{
+    write_bits(out, bits_of(*this, first, second), level, target);
+}
