@@ -17,7 +17,8 @@ namespace {
 std::string object_value(GNL_PARAMETER & option)
 {
     if (option.is_integer_parameter())
-        return GNL_ELEMENT::convert_int_to_string(static_cast<GNL_PARAMETER_INTEGER &>(option).get_internal_value(false));
+        return GNL_ELEMENT::convert_int_to_string(
+            static_cast<GNL_PARAMETER_INTEGER &>(option).get_internal_value(false));
     return static_cast<GNL_PARAMETER_STRING &>(option).get_internal_value(false);
 }
 

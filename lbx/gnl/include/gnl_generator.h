@@ -125,7 +125,7 @@ public:
     virtual void post_error_msg(char const * text) const; ///< core/gnl_generator_messages.cpp
     virtual void post_warning_msg(char const * text) const;
     virtual void post_info_msg(char const * text) const;
-    /// Consumes `post`.
+    /// Consumes `post`, except an error beyond the limit of errors: that is dropped and stays the caller's.
     virtual void post_msg(GNL_MSG_POST * const post) const;
     /// @}
 
@@ -219,6 +219,8 @@ public:
     /// @{
 
     /// "GNL_INTERNAL_ERROR: " message " CAUSE : " cause " ACTION : " action; cause and action can be null.
+    /// With `LBX_THROW_EXCEPTION_ON_ERROR` "ON" the text is thrown as a `char *` instead of posted; the catcher frees it
+    /// with `delete[]`.
     void generator_error(std::string const & message, char const * cause, char const * action) const;
     void generator_error(char const * message, char const * cause, char const * action) const
     {
@@ -280,6 +282,7 @@ public:
     std::string option_value(gnl_detail::option_id id);
     /// Whether the value equals `text`, case-insensitively.
     bool option_equals(gnl_detail::option_id id, std::string_view text);
+    class parameter_text_hold; ///< internal, core/parameter_text_hold.h
 
 private:
     void parse_parameter_list();

@@ -4,6 +4,21 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+
+namespace gnl_detail {
+
+/// The text of an expression, shared by its handle and the parameters that it was assigned to.
+struct expression_text
+{
+    /// The whole text, with the parentheses that are still owed at its front.
+    std::string const & whole();
+
+    std::string text;
+    std::size_t owed_parentheses = 0; ///< put in front when the text is read, so that long sums stay cheap
+};
+
+} // namespace gnl_detail
 
 /// The text of an exposed parameter's expression in the target language; written out, never evaluated.
 ///
@@ -13,11 +28,16 @@ class GNL_PARAMETER_EXPR
 public:
     explicit GNL_PARAMETER_EXPR(int language)
         : m_language(language)
+        , m_text(std::make_shared<gnl_detail::expression_text>())
     {
     }
+    /// Copies the text; what is added to a copy does not show in the original.
+    GNL_PARAMETER_EXPR(GNL_PARAMETER_EXPR const & other);
+    GNL_PARAMETER_EXPR & operator=(GNL_PARAMETER_EXPR const & other);
 
+    /// An empty expression becomes `text`; any other one is put in parentheses together with `text`.
     void add_to_expression(std::string const & text);
-    std::string const & get_expression() const { return m_expression; }
+    std::string const & get_expression() const { return m_text->whole(); }
     int get_language() const { return m_language; }
 
     /// Each appends its operation and returns this object.
@@ -29,8 +49,10 @@ public:
     GNL_PARAMETER_EXPR & operator%(int value);
 
 private:
+    friend class GNL_PARAMETER;
+
     int m_language;
-    std::string m_expression;
+    std::shared_ptr<gnl_detail::expression_text> m_text; ///< never null
 };
 
 /// A named setting of a generator. Declared as a member of its generator, which does not own it.
@@ -92,6 +114,10 @@ protected:
     GNL_PARAMETER(GNL_GENERATOR * parent, std::string const & name);
     GNL_PARAMETER & operator=(GNL_PARAMETER const & other);
 
+    /// Brings in what was given earlier: the parent's parameter text, and for a slice the values of its master.
+    void settle_earlier_values();
+    /// Whether the parameter is inherit-only and the body of the top generator has begun.
+    bool is_assigned_too_late() const;
     void assign_expression(GNL_PARAMETER_EXPR & expression);
     /// Tells the parent that a value was assigned, see `GNL_GENERATOR::parameter_value_has_changed`.
     void tell_parent();
@@ -110,7 +136,8 @@ protected:
     bool m_lpm_hint : 1 = false;
     bool m_parameterized : 1 = false;
     bool m_option : 1 = false;
-    GNL_PARAMETER_EXPR * m_expr = nullptr; ///< kept by the library's store of expressions
+    GNL_PARAMETER_EXPR * m_expr = nullptr; ///< the assigned handle, kept by the top generator or by its maker
+    std::shared_ptr<gnl_detail::expression_text> m_expr_text; ///< its text, which stays when the handle has gone
 
     friend class gnl_detail::option_set;
 };
@@ -182,8 +209,13 @@ public:
     static bool compare_alias_values(std::string const & token, std::string const & value);
 
 private:
+    /// The index of the token that names the value, -1 if none does.
+    int index_in_list(std::string_view value) const;
     bool select_listed_value(std::string const & value);
+    void warn_of_unlisted_value(std::string const & value) const;
     void take_unlisted_value(std::string const & value);
+    /// Sets `value` to the selected or default token; false when there is none.
+    bool take_own_value(std::string & value) const;
 
     std::string m_value_list;
     int m_default_index;

@@ -20,7 +20,7 @@ public:
     GNL_PARAMETER_VECTOR(GNL_GENERATOR * parent, std::string const & name, std::string const & default_text, int width);
     GNL_PARAMETER_VECTOR(GNL_GENERATOR * parent, std::string const & name, std::string const & default_text,
                          std::string const & width_name);
-    /// Copies the values too.
+    /// Copies and assignment take everything: name, parent, flags, width and the values.
     GNL_PARAMETER_VECTOR(GNL_PARAMETER_VECTOR const & other);
 
     bool is_vector_parameter() const override { return true; }
@@ -54,8 +54,13 @@ protected:
     void assign_string_value(std::string const & text, bool to_value);
 
 private:
+    void set_first_default(int default_value, int width);
+    void set_first_default(std::string const & text);
+    void copy_fields(GNL_PARAMETER_VECTOR const & other);
     bool may_assign(std::string const & text);
     void finish_assignment();
+    /// The value's object, made as 0 when there is none.
+    MLIB_UINTEGER & own_value();
 
     bool m_width_override = false;
     bool m_binary_output = false;
