@@ -6,6 +6,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 /// An indexed family of parameters under one name: element 3 of `COEF` is the parameter `COEF3`. The array owns its
 /// elements.
@@ -69,6 +70,24 @@ protected:
     void construct_parameter_list();
     GNL_PARAMETER & element(int index);
     void copy_from(GNL_PARAMETER_ARRAY const & other);
+
+    /// What a writer shows of an element.
+    struct element_text
+    {
+        int index;
+        std::string name;
+        std::string value; ///< a number, an expression, or a quoted string
+        bool declared;     ///< whether the element is included in declarations
+    };
+    /// The used elements that have a value, in index order, each value between `quote` if it is a string's.
+    std::vector<element_text> used_elements(bool lower_case, char const * quote);
+    /// The default as a writer shows it, "" without one.
+    std::string default_text() const;
+    bool declare_vhdl_generics(std::ostream & out, bool started, char const * opening, bool true_array,
+                               std::map<std::string, std::string, LESS_C_STRING> * known);
+    char const * vhdl_element_type() const;
+    /// The type of a generic that is a whole array, "" if the array is unbound.
+    std::string vhdl_type() const;
 
     std::map<int, std::unique_ptr<GNL_PARAMETER>> m_elements;
     std::map<int, std::string> m_values;
