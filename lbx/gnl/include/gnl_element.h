@@ -9,6 +9,7 @@ class GNL_GENERATOR;
 namespace gnl_detail {
 class element_registry;
 class option_set;
+class subdesign_names;
 } // namespace gnl_detail
 
 /// Generation languages, the values of `GNL_ELEMENT::get_gen_language`.

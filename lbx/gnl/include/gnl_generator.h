@@ -130,7 +130,7 @@ public:
     /// @}
 
     /// @name Generation
-    /// Defined in core/gnl_generator_driver.cpp and core/gnl_generator_dump.cpp.
+    /// Defined in core/gnl_generator_driver.cpp, core/gnl_generator_settling.cpp and core/gnl_generator_dump.cpp.
     /// @{
 
     /// Generates the design. `stream` receives output in single-stream flows. Read `generator_result`, the message list
@@ -402,7 +402,8 @@ public:
     /// @}
 
     /// @name Arrays
-    /// Defined in core/gnl_generator_arrays.cpp and core/gnl_generator_slice_grouping.cpp.
+    /// Defined in core/gnl_generator_arrays.cpp, core/gnl_generator_slice_grouping.cpp and
+    /// core/gnl_generator_slice_generation.cpp.
     /// @{
     GNL_GENERATOR & operator[](int index);
     void create_slices();

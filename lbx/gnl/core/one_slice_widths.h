@@ -1,0 +1,24 @@
+#pragma once
+
+#include "gnl_generator.h"
+
+#include <utility>
+#include <vector>
+
+namespace gnl_detail {
+
+/// While it lives, the ports of an array have the width of one slice: the common design of an array is the design of
+/// one slice, and its body must read the widths that it would read without an array.
+class one_slice_widths
+{
+public:
+    explicit one_slice_widths(GNL_GENERATOR & generator);
+    ~one_slice_widths();
+    one_slice_widths(one_slice_widths const &) = delete;
+    one_slice_widths & operator=(one_slice_widths const &) = delete;
+
+private:
+    std::vector<std::pair<GNL_PORT *, int>> m_whole_widths;
+};
+
+} // namespace gnl_detail
