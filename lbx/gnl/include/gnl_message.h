@@ -7,6 +7,11 @@
 
 class GNL_GENERATOR;
 
+namespace gnl_detail {
+struct format_argument;
+class positional_format;
+} // namespace gnl_detail
+
 /// Root of the objects that lists of the library hold.
 class GNL_OBJECT
 {
@@ -114,6 +119,9 @@ protected:
     }
 
 private:
+    void fill_from(std::string const & format, gnl_detail::positional_format const & inserts,
+                   std::vector<gnl_detail::format_argument> const & arguments);
+
     int m_type = error_post;
     std::string m_text;
     std::string m_format;

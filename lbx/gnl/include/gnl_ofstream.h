@@ -55,7 +55,7 @@ public:
     GNL_OFSTREAM();
     /// A null name defers the opening.
     GNL_OFSTREAM(char const * name, int mode);
-    /// Closes the file if it is open.
+    /// Closes the file if it is open; discards it when an exception is what ends the stream.
     ~GNL_OFSTREAM() override;
 
     void open(char const * name, int mode);
@@ -71,9 +71,11 @@ public:
 
 private:
     bool prepare(std::string const & name, int mode);
+    void remove_temporary();
 
     GNL_STREAMBUF m_streambuf;
     std::ofstream m_file;
     std::string m_name;      ///< the file's place
     std::string m_temporary; ///< where it is written until it is complete; "" when it is written in place
+    int m_exceptions_at_opening = 0;
 };
