@@ -286,6 +286,8 @@ public:
 
 private:
     void parse_parameter_list();
+    /// The parameter of the name, or what stands in for one of a subdesign.
+    GNL_PARAMETER * own_or_inherited_parameter(std::string const & name);
     bool assign_to_known_parameter(std::string const & name, std::string const & value);
     /// The object of the level whose value of the option counts here, null while that level has none.
     GNL_PARAMETER * deciding_option(gnl_detail::option_id id);
@@ -316,6 +318,9 @@ protected:
 private:
     /// Runs `get_inheritable` on every generator below and on this one, once each, children first.
     void gather_inheritable();
+    /// The object that took a value given here for a parameter of a subdesign, null when none was given.
+    GNL_PARAMETER * value_given_for(std::string const & name);
+    template <class KIND> typename KIND::value_type inherited_value(std::string const & name);
 
 public:
     /// Names that the subdesigns inherit, each with the object that takes the value given here; null where a value
@@ -703,6 +708,7 @@ private:
     class slice_grouping;
 
     struct front_end_lists; ///< the `char **` lists handed to a front-end
+    front_end_lists & lists();
 
     gnl_detail::generator_state m_state;
     std::unique_ptr<gnl_detail::element_registry> m_registry;

@@ -82,7 +82,7 @@ GNL_PARAMETER_EXPR & GNL_PARAMETER_EXPR::operator%(int value)
 }
 
 GNL_PARAMETER::GNL_PARAMETER(GNL_GENERATOR * parent, std::string const & name)
-    : GNL_ELEMENT(parent, name)
+    : GNL_ELEMENT(parent, name, parameter_tag())
 {
 }
 
