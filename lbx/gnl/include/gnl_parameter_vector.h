@@ -20,7 +20,8 @@ public:
     GNL_PARAMETER_VECTOR(GNL_GENERATOR * parent, std::string const & name, std::string const & default_text, int width);
     GNL_PARAMETER_VECTOR(GNL_GENERATOR * parent, std::string const & name, std::string const & default_text,
                          std::string const & width_name);
-    /// Copies and assignment take everything: name, parent, flags, width and the values.
+    /// Copies take everything: name, parent, flags, width and the values. So does assignment, except that a registered
+    /// parameter keeps its name and its place.
     GNL_PARAMETER_VECTOR(GNL_PARAMETER_VECTOR const & other);
 
     bool is_vector_parameter() const override { return true; }
