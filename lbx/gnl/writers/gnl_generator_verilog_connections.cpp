@@ -1,6 +1,7 @@
 #include "gnl_generator.h"
 
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/ports/constant_text.h"
 #include "lbx/gnl/writers/port_kinds.h"
 #include "lbx/gnl/writers/verilog_text.h"
 
@@ -79,28 +80,11 @@ private:
     assign_sequence m_assign;
 };
 
-/// Wide constants that are the same all over are written as replications.
-std::string repeated_bit_text(int width, char bit)
-{
-    return "{" + GNL_ELEMENT::convert_int_to_string(width) + "{1'b" + bit + "}}";
-}
-
 } // namespace
 
 std::string GNL_GENERATOR::verilog_constant_text(GNL_PORT & port) const
 {
-    int const width = port.get_width();
-    auto const literal = [&](std::string const & bits) {
-        return convert_int_to_string(port.get_bus_width()) + "'b" + bits;
-    };
-    if (width == 0 || width == 1)
-        return literal(port.constant_driving_value());
-    auto const * value = port.constant_driving_value_as_mlib_int();
-    if (value == nullptr)
-        return {};
-    if (value->is_all_zero())
-        return repeated_bit_text(width, '0');
-    return value->is_all_ones() ? repeated_bit_text(width, '1') : literal(value->as_bin_string());
+    return verilog_constant(port.constant_driving_value(), port.get_bus_width());
 }
 
 void GNL_GENERATOR::dump_verilog_port_connections(std::ostream & out)
