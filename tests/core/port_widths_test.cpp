@@ -1,0 +1,98 @@
+// The widths of pins from their expressions.
+
+#include "support.h"
+
+namespace {
+
+using namespace gnl_test;
+
+class PortWidths : public in_folder
+{
+protected:
+    static std::string invalid(std::string const & expression, std::string const & port)
+    {
+        return error("Invalid parameter " + expression + " is used to specify the width of port " + port + ".",
+                     "The parameter is being used to specify the width of a port. However the parameter does not exist "
+                     "or is a string parameter (only integer parameters can be used to specify widths of ports).",
+                     "Use a valid integer parameter name to specify port widths.");
+    }
+};
+
+TEST_F(PortWidths, ComeFromExpressionsForAllPins)
+{
+    design top(nullptr);
+    top.integer("WIDTH", 6);
+    GNL_PORT_INPUT a(&top, "a", "WIDTH");
+    GNL_PORT_OUTPUT y(&top, "y", "2*(WIDTH+1)");
+    GNL_PORT_BIDIR io(&top, "io", "WIDTH/2");
+    GNL_PORT_INPUT fixed(&top, "fixed", 3);
+    EXPECT_EQ(a.get_width(), 6);
+    EXPECT_EQ(y.get_width(), 14);
+    EXPECT_EQ(y.get_original_width(), 14);
+    EXPECT_EQ(io.get_width(), 3);
+    EXPECT_EQ(fixed.get_width(), 3);
+    EXPECT_EQ(top.messages(), texts{});
+}
+
+TEST_F(PortWidths, MultiplyWithTheSecondDimension)
+{
+    design top(nullptr);
+    top.integer("WIDTH", 6);
+    top.integer("ROWS", 4);
+    GNL_PORT_INPUT a(&top, "a", "WIDTH", "ROWS");
+    EXPECT_EQ(a.get_width(), 24);
+    EXPECT_EQ(a.get_original_width(), 24);
+}
+
+TEST_F(PortWidths, StayWhenTheExpressionHasNoValue)
+{
+    design top(nullptr);
+    top.string("TEXT", "ON|OFF", 0);
+    GNL_PORT_INPUT a(&top, "a", "NOWHERE", "ALSO_NOWHERE");
+    GNL_PORT_INPUT b(&top, "b", "TEXT");
+    EXPECT_EQ(a.get_width(), 0);
+    EXPECT_EQ(b.get_width(), 0);
+    EXPECT_EQ(top.messages(), (texts{invalid("NOWHERE", "top|a"), invalid("TEXT", "top|b")}));
+}
+
+TEST_F(PortWidths, StayOneDimensionalWhenTheSecondHasNoValue)
+{
+    design top(nullptr);
+    top.integer("WIDTH", 6);
+    GNL_PORT_INPUT a(&top, "a", "WIDTH", "NOWHERE");
+    EXPECT_EQ(a.get_width(), 6);
+    EXPECT_EQ(top.messages(), texts{invalid("NOWHERE", "top|a")});
+}
+
+TEST_F(PortWidths, StayOneDimensionalWhenTheProductIsTooLarge)
+{
+    design top(nullptr);
+    top.integer("WIDTH", 100000);
+    GNL_PORT_INPUT a(&top, "a", "WIDTH", "WIDTH");
+    EXPECT_EQ(a.get_width(), 100000);
+    EXPECT_EQ(top.messages(), texts{invalid("WIDTH", "top|a")});
+}
+
+TEST_F(PortWidths, FollowAnExpressionThatAnOutputWasGivenLater)
+{
+    design top(nullptr);
+    top.integer("WIDTH", 6);
+    GNL_PORT_OUTPUT y(&top, "y", 2);
+    y.set_width_parameter_name("WIDTH");
+    EXPECT_EQ(y.get_width(), 6);
+}
+
+TEST_F(PortWidths, MultiplyWithTheArrayOnce)
+{
+    design top(nullptr);
+    design arr(&top, "cell", "", 4);
+    arr.integer("WIDTH", 6);
+    GNL_PORT_INPUT a(&arr, "a", "WIDTH");
+    GNL_PORT_INPUT s(&arr, "s");
+    EXPECT_EQ(a.get_width(), 24);
+    EXPECT_EQ(a.get_original_width(), 6);
+    EXPECT_EQ(s.get_width(), 4);
+    EXPECT_EQ(s.get_original_width(), 0);
+}
+
+} // namespace
