@@ -1,26 +1,12 @@
 #include "gnl_generator.h"
 
+#include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/element_registry.h"
 #include "lbx/gnl/writers/text_sink.h"
-
-#include <algorithm>
 
 using namespace gnl_detail;
 
 namespace {
-
-std::string in_lower_case(std::string text)
-{
-    std::ranges::transform(text, text.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
-    return text;
-}
-
-bool equal_names(std::string_view a, std::string_view b)
-{
-    LESS_C_STRING const less;
-    return !less(a, b) && !less(b, a);
-}
 
 /// What stands in front of the parameter names of one instance.
 std::string instance_prefix(GNL_GENERATOR const & instance, bool use_fixed_instance_name, int slice_index)
@@ -70,7 +56,7 @@ private:
     text_sink & entry() { return m_text << m_list << "\t\t" << m_prefix; }
     std::string written_name(std::string const & name) const
     {
-        return m_instance.preserves_parameter_case() ? name : in_lower_case(name);
+        return m_instance.preserves_parameter_case() ? name : folded(name);
     }
 
     void assign(GNL_PARAMETER & parameter)
@@ -101,15 +87,15 @@ private:
     {
         if (parameter.is_lpm_hint()) {
             m_instance.add_to_lpm_hint_string(m_hint, parameter.get_name(), parameter.get_value(true));
-        } else if (equal_names(parameter.get_name(), "lpm_hint")) {
+        } else if (equal_folded(parameter.get_name(), "lpm_hint")) {
             m_instance.add_to_lpm_hint_string(m_hint, parameter.get_value(true), "");
         } else if (parameter.uses_expr_assignment()) {
             // The name is left out, and readers of these files count on it.
             entry() << " = " << parameter.get_expr_assignment();
         } else {
             auto const value = parameter.get_value(true);
-            entry() << written_name(parameter.get_name()) << " = \""
-                    << (m_lower_case_values ? in_lower_case(value) : value) << "\"";
+            entry() << written_name(parameter.get_name()) << " = \"" << (m_lower_case_values ? folded(value) : value)
+                    << "\"";
         }
     }
     void assign_vector(GNL_PARAMETER_VECTOR & parameter)
@@ -138,7 +124,7 @@ private:
     /// A cell that stands for another one tells it which of its ports are connected.
     bool tells_used_ports() const
     {
-        return m_instance.is_primitive() && !equal_names(m_instance.get_name(), m_instance.get_primitive_name())
+        return m_instance.is_primitive() && !equal_folded(m_instance.get_name(), m_instance.get_primitive_name())
                && m_instance.option_equals(option_id::eda_planb, "ON");
     }
 

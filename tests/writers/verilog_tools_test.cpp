@@ -1,0 +1,204 @@
+#include "golden_designs.h"
+#include "verilog_simulation.h"
+
+using namespace gnl_test;
+
+namespace {
+
+/// One design and the options that it is generated with.
+struct tried
+{
+    std::string name;
+    std::unique_ptr<design> (*make)(std::string const & text);
+    std::string options;
+};
+
+void PrintTo(tried const & shown, std::ostream * out)
+{
+    *out << shown.name;
+}
+
+/// A pad that is driven by logic and read back, and one that is joined to a cell's.
+std::unique_ptr<design> bidir_design(std::string const & text)
+{
+    auto top = std::make_unique<design>(nullptr, "top", text.c_str());
+    auto & a = top->input("a", 4);
+    auto & io = top->bidir("io", 4);
+    auto & y = top->output("y", 4);
+    auto & leaf = top->child("leaf", "u");
+    auto & p = leaf.bidir("p", 4);
+    auto & r = leaf.output("r", 4);
+    auto & pad = top->bidir("pad", 4);
+    auto & z = top->output("z", 4);
+    leaf.body = [](design & of) { of.port("r") = ~of.port("p"); };
+    top->body = [&](design &) {
+        io = ~a;
+        y = io;
+        pad = p;
+        z = r;
+    };
+    return top;
+}
+
+/// Constants, signed ports, registers' nets, a pulled input and an exposed parameter.
+std::unique_ptr<design> declarations_design(std::string const & text)
+{
+    auto top = std::make_unique<design>(nullptr, "top", text.c_str());
+    auto & s = top->input("s", 8);
+    auto & one = top->input("one", 1);
+    auto & pulled = top->input("pulled", 2, 1);
+    auto & y = top->output("y", 8);
+    auto & wide = top->output("wide", 40);
+    auto & mixed = top->output("mixed", 4);
+    auto & p = top->output("p", 2);
+    auto & width = top->integer("WIDTH", 8);
+    width.set_as_parameterized();
+    width = 8;
+    s.set_port_is_signed();
+    y.set_port_is_signed();
+    top->set_port_to_used("pulled");
+    top->body = [&](design & of) {
+        auto & kept = of.wire("kept", 8);
+        kept.set_qelvar_internal_option("FAST=ON");
+        kept = s ^ one;
+        y = kept;
+        wide = 0;
+        mixed = 5;
+        p = pulled;
+    };
+    return top;
+}
+
+/// Unused inputs of a cell are tied off and some ports are for simulation alone.
+std::unique_ptr<design> ties_design(std::string const & text)
+{
+    auto top = std::make_unique<design>(nullptr, "top", text.c_str());
+    auto & a = top->input("a", 4);
+    auto & y = top->output("y");
+    top->body = [&](design & of) {
+        auto & cell = of.child("blk", "c");
+        cell.set_primitive();
+        auto & in = cell.input("a", 4);
+        cell.input("ena", 0, 1);
+        auto & out = cell.output("o");
+        cell.add_simulation_only_port("spare", "");
+        in = a;
+        y = out;
+    };
+    return top;
+}
+
+std::vector<tried> all_designs()
+{
+    std::string const one_file = "LBX_FILE=top.v";
+    std::string const structural = one_file + ",LBX_STRUCTURAL_NETLIST=ON";
+    return {{"flat", flat_design, one_file},
+            {"flat_structural", flat_design, structural},
+            {"flat_with_all_wires", flat_design, one_file + ",LBX_REMOVE_OPTIONAL_WIRES=OFF"},
+            {"two_level", two_level_design, one_file},
+            {"two_level_structural", two_level_design, structural},
+            {"array", array_design, one_file},
+            {"bidir", bidir_design, one_file},
+            {"declarations", declarations_design, one_file},
+            {"ties", ties_design, one_file}};
+}
+
+class VerilogTools : public in_folder, public ::testing::WithParamInterface<tried>
+{
+protected:
+    /// Writes top.v and the model of the cells beside it.
+    void generate()
+    {
+        auto const top = GetParam().make(GetParam().options);
+        top->run();
+        ASSERT_EQ(top->messages(), texts{});
+        std::ofstream("blk.v") << "`timescale 1 ps / 1 ps\n" << cell_model();
+    }
+};
+
+/// What a simulator must find, whatever way the design is written.
+std::vector<vector_of_pins> simulated(tried const & of, std::vector<pin> const & in, std::vector<pin> const & out,
+                                      std::vector<vector_of_pins> const & stimulus)
+{
+    auto const top = of.make(of.options);
+    top->run();
+    std::ofstream("blk.v") << cell_model();
+    return verilog_simulation("top", in, out).run("top.v blk.v", stimulus);
+}
+
+using VerilogMeaning = in_folder;
+
+} // namespace
+
+TEST_P(VerilogTools, ACompilerReadsIt)
+{
+    SKIP_WITHOUT("iverilog");
+    ASSERT_NO_FATAL_FAILURE(generate());
+    auto const result = run_command("iverilog -g2005 -Wall -Wno-timescale -s top -o top.vvp top.v blk.v");
+    EXPECT_EQ(result.status, 0) << result.text << file_text("top.v");
+    EXPECT_EQ(result.text, "") << file_text("top.v");
+}
+
+TEST_P(VerilogTools, ALinterIsContent)
+{
+    SKIP_WITHOUT("verilator");
+    ASSERT_NO_FATAL_FAILURE(generate());
+    // -Wno-DECLFILENAME: all modules of a design stand in one file.
+    // -Wno-UNUSED: a model of a cell has parameters and pins that nobody reads.
+    // -Wno-PINCONNECTEMPTY: an unused output of a cell is open on purpose.
+    auto const result = run_command("verilator --lint-only -Wall -Wno-DECLFILENAME -Wno-UNUSED -Wno-PINCONNECTEMPTY "
+                                    "--top-module top top.v blk.v");
+    EXPECT_EQ(result.status, 0) << result.text << file_text("top.v");
+}
+
+INSTANTIATE_TEST_SUITE_P(Designs, VerilogTools, ::testing::ValuesIn(all_designs()),
+                         [](auto const & of) { return of.param.name; });
+
+TEST_F(VerilogMeaning, OfTheFlatDesign)
+{
+    SKIP_WITHOUT("iverilog");
+    std::vector<pin> const in{{"a", 4}, {"b", 4}, {"sel", 1}};
+    std::vector<pin> const out{{"y", 4}, {"z", 1}};
+    auto const stimulus = stimulus_for(in, test_seed());
+    for (char const * options : {"LBX_FILE=top.v", "LBX_FILE=top.v,LBX_STRUCTURAL_NETLIST=ON"}) {
+        auto const results = simulated({"flat", flat_design, options}, in, out, stimulus);
+        for (std::size_t i = 0; i < stimulus.size(); ++i) {
+            auto at = stimulus[i];
+            auto const t = (at["a"] & at["b"]) | (at["sel"] != 0 ? 15U : 0U);
+            auto const y = ((t & 3U) << 2U) | ((at["a"] >> 3U) << 1U) | at["sel"];
+            auto const z = (t ^ (t >> 1U) ^ (t >> 2U) ^ (t >> 3U)) & 1U;
+            ASSERT_EQ(results[i], (vector_of_pins{{"y", y}, {"z", z}})) << options;
+        }
+    }
+}
+
+TEST_F(VerilogMeaning, OfTheTwoLevelDesign)
+{
+    SKIP_WITHOUT("iverilog");
+    std::vector<pin> const in{{"d", 4}, {"en", 1}};
+    std::vector<pin> const out{{"q", 4}, {"full", 1}};
+    auto const stimulus = stimulus_for(in, test_seed());
+    auto const stage_of = [](std::uint64_t d, std::uint64_t en) { return (d & 14U) ^ (en != 0 ? 15U : 0U); };
+    auto const results = simulated({"two_level", two_level_design, "LBX_FILE=top.v"}, in, out, stimulus);
+    for (std::size_t i = 0; i < stimulus.size(); ++i) {
+        auto at = stimulus[i];
+        auto const q = stage_of(stage_of(stage_of(at["d"], at["en"]), 1) | at["d"], 1);
+        ASSERT_EQ(results[i], (vector_of_pins{{"q", q}, {"full", q == 15 ? 1U : 0U}}));
+    }
+}
+
+TEST_F(VerilogMeaning, OfTheArrayDesign)
+{
+    SKIP_WITHOUT("iverilog");
+    std::vector<pin> const in{{"d", 6}, {"en", 1}};
+    std::vector<pin> const out{{"q", 6}, {"x", 1}, {"y", 1}};
+    auto const stimulus = stimulus_for(in, test_seed());
+    auto const results = simulated({"array", array_design, "LBX_FILE=top.v"}, in, out, stimulus);
+    for (std::size_t i = 0; i < stimulus.size(); ++i) {
+        auto at = stimulus[i];
+        auto const q = (at["d"] & 0x2aU) ^ (at["en"] != 0 ? 0x3fU : 0U);
+        auto const x = (at["d"] & 15U) == 15 ? 1U : 0U;
+        auto const y = (at["d"] & 3U) == 3 && at["en"] != 0 ? 1U : 0U;
+        ASSERT_EQ(results[i], (vector_of_pins{{"q", q}, {"x", x}, {"y", y}}));
+    }
+}
