@@ -66,6 +66,21 @@ inline std::string source_text(MLIB_UINTEGER const & value)
     return value.as_hex_string();
 }
 
+/// Whether the constant fits the port. Nothing is checked from 32 bits on: every int fits there.
+inline bool constant_fits(GNL_PORT & sink, int value)
+{
+    int const width = sink.get_width();
+    if (width >= 32 || value == 0 || value == 1)
+        return true;
+    // A scalar, and a port of no bits at all, take 0 and 1 alone.
+    return width > 0 && value >= 0 && static_cast<unsigned>(value) < 1U << width;
+}
+/// A wide constant is judged by its width alone, whatever its bits are.
+inline bool constant_fits(GNL_PORT & sink, MLIB_UINTEGER const & value)
+{
+    return value.bitwidth() <= sink.get_bus_width();
+}
+
 template <class SOURCE> inline constexpr connection_messages messages_about = messages_about_constants;
 template <> inline constexpr connection_messages messages_about<GNL_PORT> = messages_about_ports;
 

@@ -7,26 +7,11 @@
 using gnl_detail::check_level_and_slices;
 using gnl_detail::check_sink;
 using gnl_detail::check_unassigned;
+using gnl_detail::constant_fits;
 using gnl_detail::port_message;
 using gnl_detail::report;
 
 namespace {
-
-/// Whether the constant fits the port. Nothing is checked from 32 bits on: every int fits there.
-bool constant_fits(GNL_PORT & sink, int value)
-{
-    int const width = sink.get_width();
-    if (width >= 32 || value == 0 || value == 1)
-        return true;
-    // A scalar, and a port of no bits at all, take 0 and 1 alone.
-    return width > 0 && value >= 0 && static_cast<unsigned>(value) < 1U << width;
-}
-
-/// A wide constant is judged by its width alone, whatever its bits are.
-bool constant_fits(GNL_PORT & sink, MLIB_UINTEGER const & value)
-{
-    return value.bitwidth() <= sink.get_bus_width();
-}
 
 template <class VALUE> bool may_take_constant(GNL_PORT & sink, VALUE const & value)
 {

@@ -29,7 +29,7 @@ std::string GNL_PORT::fix_wire_name(GNL_GENERATOR * parent, std::string const & 
 {
     // There a bus name that ends in a digit reads as one bit of that bus.
     std::string fixed = is_qhdl() && width_sum >= 1 && ends_in_digit(name) ? name + "w" : name;
-    if (parent && parent->check_wire_name_collision(fixed))
+    if (parent && !parent->check_wire_name_collision(fixed))
         return get_wire_name_from_parent(parent, "", "");
     return fixed;
 }

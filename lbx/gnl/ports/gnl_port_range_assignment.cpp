@@ -1,12 +1,15 @@
 #include "gnl_port_range.h"
 
+#include "connection_checks.h"
 #include "gnl_generator.h"
 #include "port_messages.h"
 #include "saturated.h"
 
+using gnl_detail::constant_fits;
 using gnl_detail::port_message;
 using gnl_detail::report;
 using gnl_detail::saturated;
+using gnl_detail::source_text;
 
 namespace {
 
@@ -32,29 +35,6 @@ range_target target_of(GNL_PORT_OUTPUT_RANGE const & range)
     return target;
 }
 
-bool fits(int value, GNL_PORT & range)
-{
-    int const width = range.get_width();
-    if (value == 0 || value == 1 || width >= 32)
-        return true;
-    return value > 0 && width > 0 && static_cast<unsigned>(value) < 1U << width;
-}
-
-bool fits(MLIB_UINTEGER const & value, GNL_PORT & range)
-{
-    return value.bitwidth() <= range.get_bus_width();
-}
-
-std::string shown(int value)
-{
-    return GNL_ELEMENT::convert_int_to_string(value);
-}
-
-std::string shown(MLIB_UINTEGER const & value)
-{
-    return value.as_hex_string();
-}
-
 /// A constant of either kind; the level of the statement has been found already.
 template <class CONSTANT> void assign_constant(GNL_PORT_OUTPUT_RANGE & range, CONSTANT & value)
 {
@@ -62,14 +42,14 @@ template <class CONSTANT> void assign_constant(GNL_PORT_OUTPUT_RANGE & range, CO
     GNL_GENERATOR * const level = range.get_connection_level();
     std::string const name = range.get_hierarchical_name();
     if (!level)
-        return report<port_message::range_constant_outside_body>(parent, name, shown(value));
-    if (!fits(value, range))
-        return report<port_message::range_constant_too_wide>(parent, name, range.get_bus_width(), shown(value));
+        return report<port_message::range_constant_outside_body>(parent, name, source_text(value));
+    if (!constant_fits(range, value))
+        return report<port_message::range_constant_too_wide>(parent, name, range.get_bus_width(), source_text(value));
     range_target const target = target_of(range);
     if (!target.port)
         return;
     if (!target.port->check_lhs(level))
-        return report<port_message::range_no_sink_for_constant>(parent, name, shown(value),
+        return report<port_message::range_no_sink_for_constant>(parent, name, source_text(value),
                                                                 level->get_hierarchical_name());
     target.port->make_connection(value, target.high, target.low, level, true);
 }
