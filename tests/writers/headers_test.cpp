@@ -80,11 +80,11 @@ TEST_F(HeaderLine, EndsWithTheInternalOptions)
 TEST_F(HeaderLine, IsTheSameInASecondRun)
 {
     auto const header = [] {
-        design top(nullptr, "top");
-        auto & sub = top.child("sub", "u1");
-        sub.integer("SIZE", 2) = 7;
-        sub.input("d").set_used();
-        return sub.dump_header(true);
+        design parent(nullptr, "top");
+        auto & child = parent.child("sub", "u1");
+        child.integer("SIZE", 2) = 7;
+        child.input("d").set_used();
+        return child.dump_header(true);
     };
     EXPECT_EQ(header(), header());
 }

@@ -21,28 +21,13 @@ void write_verilog_directives(std::ostream & out)
     out << comment << input_version << comment << message_switch;
 }
 
-/// An exception that leaves the body leaves no half of a file.
-class unfinished_file
-{
-public:
-    explicit unfinished_file(GNL_OFSTREAM & file)
-        : m_file(&file)
-    {
-    }
-    unfinished_file(unfinished_file const &) = delete;
-    unfinished_file & operator=(unfinished_file const &) = delete;
-    ~unfinished_file()
-    {
-        if (m_file)
-            m_file->discard();
-    }
-    void finished() { m_file = nullptr; }
-
-private:
-    GNL_OFSTREAM * m_file;
-};
-
 } // namespace
+
+GNL_GENERATOR::design_file_writer::design_file_writer(GNL_GENERATOR & generator)
+    : m_generator(generator)
+    , m_names(generator.get_top_level_parent()->subdesign_names())
+{
+}
 
 void GNL_GENERATOR::design_file_writer::write_own_file()
 {
@@ -55,16 +40,16 @@ void GNL_GENERATOR::design_file_writer::write_own_file()
     if (!open(file, path, appended ? GNL_OFSTREAM::append_mode : GNL_OFSTREAM::output_mode,
               beside ? m_generator.get_entity_name() : path))
         return;
-    unfinished_file guard(file);
     if (!is_tcl())
         write_own_head(file);
     run_body(file);
     if (!is_tcl())
         write_last_line(file);
     // What others have appended stays when this design turns out not to be supported.
-    if (appended && !m_generator.is_supported())
+    if (appended && !m_generator.is_supported()) {
+        file.discard();
         return;
-    guard.finished();
+    }
     close(file, path);
     remove_unwanted_file(path);
 }
@@ -114,11 +99,9 @@ void GNL_GENERATOR::design_file_writer::write_side_file(int language)
     GNL_OFSTREAM file;
     if (!open(file, path, GNL_OFSTREAM::output_mode, path))
         return;
-    unfinished_file guard(file);
     write_side_head(file, language);
     run_body(file);
     write_last_line(file);
-    guard.finished();
     close(file, path);
     if (!m_generator.is_append_mode() && !m_generator.get_parent())
         m_generator.set_full_file_name(m_generator.get_entity_name() + ending);
@@ -179,6 +162,7 @@ bool GNL_GENERATOR::design_file_writer::open(GNL_OFSTREAM & file, std::string co
     auto const & text = current_language_text();
     file.set_char_limit(text.line_limit);
     file.set_comment_char(text.comment_char);
+    m_names.file_begun(path);
     return true;
 }
 
@@ -186,11 +170,11 @@ void GNL_GENERATOR::design_file_writer::close(GNL_OFSTREAM & file, std::string c
 {
     file.close();
     if (!file) {
+        m_names.file_removed(path);
         report<driver_message::file_not_created>(m_generator, path);
         return;
     }
-    if (m_generator.get_parent() && !m_settings.empty())
-        m_generator.get_top_level_parent()->subdesign_names().file_written(path, m_settings);
+    m_names.file_written(path, m_settings);
     keep_resource_count();
 }
 
@@ -201,7 +185,7 @@ void GNL_GENERATOR::design_file_writer::remove_unwanted_file(std::string const &
     if (m_generator.is_supported() && !written_by_parent)
         return;
     remove_output_file(path);
-    m_generator.get_top_level_parent()->subdesign_names().file_removed(path);
+    m_names.file_removed(path);
 }
 
 void GNL_GENERATOR::design_file_writer::keep_resource_count()

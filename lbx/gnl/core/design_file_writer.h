@@ -9,10 +9,7 @@ class GNL_OFSTREAM;
 class GNL_GENERATOR::design_file_writer
 {
 public:
-    explicit design_file_writer(GNL_GENERATOR & generator)
-        : m_generator(generator)
-    {
-    }
+    explicit design_file_writer(GNL_GENERATOR & generator);
 
     void write_own_file();
     void write_to_shared_stream(std::ostream & stream);
@@ -34,5 +31,6 @@ private:
     std::string beside_others(std::string const & ending);
 
     GNL_GENERATOR & m_generator;
+    gnl_detail::subdesign_names & m_names;
     std::string m_settings; ///< the header line of the file, for later comparisons with it
 };

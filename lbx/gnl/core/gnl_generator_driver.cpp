@@ -14,7 +14,8 @@
 #include "lbx/gnl/core/subdesign_names.h"
 #include "lbx/gnl/writers/language_text.h"
 
-#include <iostream>
+#include <algorithm>
+#include <exception>
 
 using namespace gnl_detail;
 
@@ -30,10 +31,13 @@ public:
     }
     generation_run(generation_run const &) = delete;
     generation_run & operator=(generation_run const &) = delete;
-    /// However the run ends, nothing connects any more, and the design above goes on in its own language.
+    /// However the run ends, nothing connects any more, and the design above goes on in its own language. A design that
+    /// an exception has cut short is none that others could share.
     ~generation_run()
     {
         m_generator.set_out_of_rtl_body();
+        if (!m_name.empty() && std::uncaught_exceptions() > m_exceptions)
+            m_generator.get_top_level_parent()->remove_from_list_of_subdesigns(m_name);
         if (m_outer_language >= 0)
             set_gen_language(m_outer_language);
     }
@@ -58,6 +62,8 @@ private:
     GNL_GENERATOR & m_generator;
     std::ostream & m_stream;
     bool const m_top;
+    int const m_exceptions = std::uncaught_exceptions();
+    std::string m_name;          ///< the subdesign's name, if it is new
     int m_outer_language = -1;   ///< the language to return to, -1 if it has not changed
     bool m_checked_free = false; ///< the check for required ports and parameters has found nothing
 };
@@ -193,14 +199,18 @@ void GNL_GENERATOR::generation_run::move_to_verilog()
 void GNL_GENERATOR::generation_run::settle_name(bool common_design)
 {
     int const errors = m_generator.msg_handler().get_error_count();
-    bool const named_before = !m_generator.generate_file();
+    bool const off_before = !m_generator.generate_file();
     auto name = m_generator.get_subdesign_name();
     m_checked_free = !m_top && m_generator.msg_handler().get_error_count() == errors;
     m_generator.set_entity_name(name);
     if (m_top)
         m_generator.set_file_name(name + std::string(current_language_text().extension));
+    if (m_top || off_before || !m_generator.generate_file())
+        return;
     // A name for which nothing is written must not pass for a design that others with these settings can share.
-    else if (!common_design && !named_before && m_generator.generate_file())
+    if (common_design)
+        m_name = name;
+    else
         m_generator.get_top_level_parent()->remove_from_list_of_subdesigns(name);
 }
 

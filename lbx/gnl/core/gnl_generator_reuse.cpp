@@ -6,6 +6,7 @@
 #include "gnl_generator.h"
 
 #include "lbx/gnl/core/case_folding.h"
+#include "lbx/gnl/core/subdesign_names.h"
 
 #include <filesystem>
 #include <fstream>
@@ -202,6 +203,8 @@ int GNL_GENERATOR::check_list_of_subdesigns(std::string const & name, std::strin
 void GNL_GENERATOR::remove_from_list_of_subdesigns(std::string const & name)
 {
     m_state.list_of_subdesigns.erase(name);
+    if (m_subdesign_names)
+        m_subdesign_names->release(gnl_detail::folded(name));
 }
 
 bool GNL_GENERATOR::search_list(std::map<std::string, std::string, LESS_C_STRING> const & list, std::string const & key)

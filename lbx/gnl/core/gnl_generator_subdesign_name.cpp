@@ -5,8 +5,8 @@
 #include "lbx/gnl/core/subdesign_names.h"
 #include "lbx/gnl/writers/language_text.h"
 
-#include <array>
 #include <fstream>
+#include <optional>
 
 using namespace gnl_detail;
 
@@ -68,6 +68,11 @@ private:
     std::string find_in_folder();
     void pass_collisions();
     std::string name(int seed) const;
+    /// The top's name stands in no list, and its file is not there before it is complete.
+    bool is_name_of_top(std::string const & name) const
+    {
+        return m_generator.get_parent() && equal_folded(name, m_top.get_entity_name());
+    }
     int compare_with_file(std::string const & path);
     void note_other_file(seed_space & space, std::string const & path) const;
     /// Moves on to the next seed that has a chance. Numbers behind a fixed name are tried one by one.
@@ -146,6 +151,8 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_list()
             found = name(m_seed);
         else if (m_seed > 0)
             found += convert_int_to_string(m_seed); // the numbers add up: "p_mg", "p_mg1", "p_mg12"
+        if (is_name_of_top(found))
+            continue;
         int const result = m_top.check_list_of_subdesigns(found, m_header);
         space.take(m_seed, folded(m_top.m_state.list_of_subdesigns[found]));
         if (result == 0 && m_generator.dump_timing_assignments_header().empty())
@@ -166,6 +173,8 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_folder()
     for (;; ++m_seed) {
         skip_taken(space);
         auto const path = folder + name(m_seed) + ending;
+        if (is_name_of_top(name(m_seed)) || m_top.subdesign_names().is_begun(path))
+            continue;
         int const result = compare_with_file(path);
         if (result == 2) {
             note_other_file(space, path);

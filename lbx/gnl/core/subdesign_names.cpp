@@ -113,12 +113,14 @@ void subdesign_names::release(std::string_view name)
 
 void subdesign_names::file_written(std::string const & path, std::string const & settings)
 {
+    m_begun.erase(path);
     m_files[path].clear();
     take(path, settings);
 }
 
 void subdesign_names::file_removed(std::string const & path)
 {
+    m_begun.erase(path);
     m_files.erase(path);
     release(path);
 }

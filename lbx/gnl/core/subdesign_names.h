@@ -48,6 +48,9 @@ public:
     /// Nobody has the name any more.
     void release(std::string_view name);
 
+    /// A file that is being written: it has its name already, although it is not there yet.
+    void file_begun(std::string const & path) { m_begun.insert(path); }
+    bool is_begun(std::string const & path) const { return m_begun.contains(path); }
     /// A file that this run has completed: what a comparison with it gives stays valid until it is written again.
     void file_written(std::string const & path, std::string const & settings);
     void file_removed(std::string const & path);
@@ -65,6 +68,7 @@ private:
     };
 
     std::map<name_pattern, seed_space> m_spaces;
+    std::unordered_set<std::string> m_begun;
     std::unordered_map<std::string, std::unordered_map<std::string, int>> m_files; ///< path to results by question
 };
 
