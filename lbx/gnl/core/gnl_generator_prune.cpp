@@ -176,13 +176,15 @@ public:
     }
 
 private:
+    /// No wire changes its driver here, so it doesn't matter which expression comes first. Concatenations make ranges,
+    /// which take the next wire names.
     void bypass_inside_expressions(GNL_GENERATOR & design)
     {
         for (GNL_GENERATOR & cell : design.registry().generators())
             if (cell.is_primitive())
                 prune(cell);
-        for (GNL_PORT_LOGIC & logic : design.registry().logic_ports())
-            bypass_operands(logic);
+        for (GNL_PORT_LOGIC * logic : design.registry().unordered_logic_ports())
+            bypass_operands(*logic);
         for (GNL_PORT & port : design.registry().ports())
             if (port.is_concat_port())
                 bypass_elements(static_cast<GNL_PORT_CONCAT &>(port));
@@ -192,15 +194,24 @@ private:
     void bypass_drivers(GNL_GENERATOR & design)
     {
         bool const may_remove = design.allow_removal_of_optional_wires();
-        if (may_remove)
-            for (GNL_PORT_LOGIC & logic : design.registry().logic_ports())
+        auto & registry = design.registry();
+        if (may_remove && has_unread(registry.unordered_logic_ports()))
+            for (GNL_PORT_LOGIC & logic : registry.logic_ports())
                 release_sources(logic);
-        for (GNL_PORT & port : design.registry().ports())
+        for (GNL_PORT & port : registry.ports())
             if ((!may_remove || !release_sources(port)) && port.is_simple_port())
                 bypass_driver(port);
-        if (may_remove)
-            for (GNL_PORT_OUTPUT_RANGE & range : design.registry().ranges())
+        if (may_remove && has_unread(registry.unordered_ranges()))
+            for (GNL_PORT_OUTPUT_RANGE & range : registry.ranges())
                 release_sources(range);
+    }
+
+    /// Operators that are all read release nothing, and as long as none does, none becomes unread: then they need not
+    /// be visited in order at all.
+    template <class PORT> static bool has_unread(std::vector<PORT *> const & operators)
+    {
+        return std::any_of(operators.begin(), operators.end(),
+                           [](PORT const * one) { return !one->port_is_a_driver(); });
     }
 
     /// Whether the bits of `wire` are the bits of `source`, which they aren't when the wire repeats a narrower source.
@@ -259,10 +270,17 @@ private:
     {
         if (logic.need_to_create_vhdl_loop())
             return;
-        if (GNL_PORT * source = source_of_operand(logic.get_first_operand()))
-            logic.replace_first_operand(source);
-        if (GNL_PORT * source = source_of_operand(logic.get_second_operand()))
-            logic.replace_second_operand(source);
+        GNL_PORT * first = source_of_operand(logic.get_first_operand());
+        GNL_PORT * second = source_of_operand(logic.get_second_operand());
+        if (!first && !second)
+            return;
+        // Expressions keep the order of the operands that they were made of.
+        if (logic.get_parent())
+            logic.get_parent()->registry().logic_ports();
+        if (first)
+            logic.replace_first_operand(first);
+        if (second)
+            logic.replace_second_operand(second);
     }
 
     /// Null when the operand stays. A wire that repeats a narrower source does: the expression would lose its width.
