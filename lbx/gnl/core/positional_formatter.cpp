@@ -120,7 +120,8 @@ void positional_format::add_insert(std::string_view & rest)
     insert.has_specification = end != std::string_view::npos;
     insert.text = "%s";
     if (insert.has_specification) {
-        insert.text = ("%" + std::string(rest.substr(1, end - 1))).substr(0, longest_specification);
+        if (end > 1)
+            insert.text = ("%" + std::string(rest.substr(1, end - 1))).substr(0, longest_specification);
         rest.remove_prefix(end + 1);
     }
     ++m_insert_count;
