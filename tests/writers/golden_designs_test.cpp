@@ -14,7 +14,7 @@ std::string without_legal_notice(design & top, std::string text)
 {
     auto const notice = top.dump_copyright_header();
     auto const at = text.find(notice);
-    return at == std::string::npos ? text : text.replace(at, notice.size(), "// (legal notice)");
+    return at == std::string::npos ? text : text.replace(at, notice.size(), "// (legal notice)\n");
 }
 
 ::testing::AssertionResult writes_golden(std::unique_ptr<design> top, std::string const & name)
