@@ -3,9 +3,9 @@
 #include "gnl_generator.h"
 
 #include "lbx/gnl/core/case_folding.h"
+#include "lbx/gnl/writers/language_text.h"
 #include "lbx_util.h"
 
-#include <array>
 #include <string_view>
 
 #include <sys/stat.h>
@@ -14,9 +14,6 @@ using gnl_detail::equal_folded;
 using gnl_detail::option_id;
 
 namespace {
-
-/// Tcl has no files of subdesigns; should one be asked for, it is named as in QHDL.
-constexpr std::array<std::string_view, 4> subdesign_extensions{".tdf", ".v", ".vhd", ".tdf"};
 
 bool exists(std::string const & path)
 {
@@ -74,8 +71,7 @@ char const * GNL_GENERATOR::get_file_name()
     if (!m_state.full_file_name.empty() || is_primitive())
         return m_state.full_file_name.c_str();
     if (get_parent())
-        set_full_file_name(get_entity_name()
-                           + std::string(subdesign_extensions[static_cast<std::size_t>(get_gen_language())]));
+        set_full_file_name(get_entity_name() + std::string(gnl_detail::subdesign_extension()));
     else if (option_is_used(option_id::file)) {
         file_setting const setting(option_value(option_id::file));
         if (setting.append)

@@ -33,7 +33,7 @@ inline language_text const & current_language_text()
     return language_text_of(GNL_ELEMENT::get_gen_language());
 }
 
-/// Extension of a subdesign's file. A Tcl run writes none; names are looked for as in QHDL.
+/// Extension of a subdesign's file. Tcl has none; should one be asked for, it is named as in QHDL.
 inline std::string_view subdesign_extension()
 {
     return language_text_of(GNL_ELEMENT::is_tcl() ? GNL_QHDL : GNL_ELEMENT::get_gen_language()).extension;
