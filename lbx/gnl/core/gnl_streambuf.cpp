@@ -1,8 +1,8 @@
 // The buffer of an output file, and the folding of long lines.
 //
 // Folding works on the buffer as a whole. A line up to the limit can hold no fold, and nearly every line is one, so
-// lines are found with memchr and only a longer one is looked at byte by byte; what lies between two folds is written
-// at once.
+// lines are found with memchr, and in a longer one the search for a safe character starts where the limit is passed. A
+// buffer is written at once, folded or not.
 
 #include "gnl_ofstream.h"
 
@@ -31,48 +31,49 @@ public:
 
     void write(char const * text, char const * end)
     {
-        m_unwritten = text;
+        m_taken = text;
         for (char const * line = text; line < end;) {
             auto const * newline =
                 static_cast<char const *>(std::memchr(line, '\n', static_cast<std::size_t>(end - line)));
             char const * const line_end = newline ? newline : end;
-            if (static_cast<std::size_t>(line_end - line) > m_limit)
-                fold(line, line_end);
+            if (auto const size = static_cast<std::size_t>(line_end - line); size > m_limit)
+                fold(line, size);
             line = newline ? newline + 1 : end;
         }
-        write_up_to(end);
+        if (m_folded.empty())
+            m_out.write(text, end - text);
+        else {
+            take_up_to(end);
+            m_out.write(m_folded.data(), static_cast<std::streamsize>(m_folded.size()));
+        }
     }
 
 private:
-    void fold(char const * line, char const * end)
+    void fold(char const * line, std::size_t size)
     {
-        bool const detect_comments = m_comment_char != '\n';
-        bool comment_begun = false;
-        unsigned column = 0;
-        for (char const * at = line; at < end; ++at) {
-            if (detect_comments && *at == m_comment_char) {
-                if (comment_begun)
-                    return; // from here on the line is a comment
-                comment_begun = column == 0;
+        if (m_comment_char != '\n' && *line == m_comment_char)
+            if (void const * const comment = std::memchr(line + 1, m_comment_char, size - 1))
+                size = static_cast<std::size_t>(static_cast<char const *>(comment) - line);
+        // The character that a line is broken before has column 1 of the next.
+        for (std::size_t at = m_limit; at < size; ++at)
+            if (may_fold_before(line[at])) {
+                take_up_to(line + at);
+                m_folded += '\n';
+                at += m_limit - 1;
             }
-            if (++column > m_limit && may_fold_before(*at)) {
-                write_up_to(at);
-                m_out.put('\n');
-                column = 1;
-            }
-        }
     }
 
-    void write_up_to(char const * end)
+    void take_up_to(char const * end)
     {
-        m_out.write(m_unwritten, end - m_unwritten);
-        m_unwritten = end;
+        m_folded.append(m_taken, end);
+        m_taken = end;
     }
 
     std::ostream & m_out;
     unsigned const m_limit;
     char const m_comment_char;
-    char const * m_unwritten = nullptr;
+    char const * m_taken = nullptr;
+    std::string m_folded; ///< what comes before m_taken; "" as long as nothing is folded
 };
 
 } // namespace
