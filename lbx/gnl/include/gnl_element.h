@@ -65,8 +65,14 @@ public:
 
 protected:
     GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name);
+    /// For parameters, which a body may not create: the whole object does not exist yet and cannot be asked its kind.
+    struct parameter_tag
+    {
+    };
+    GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name, parameter_tag);
     /// Takes parent and name and does not register: a copy is in no registry.
     GNL_ELEMENT(GNL_ELEMENT const & other);
+    /// Takes parent and name, except on a registered element, which stays what and where it is.
     GNL_ELEMENT & operator=(GNL_ELEMENT const & other);
 
     void set_name(std::string const & name) { m_name = name; }
@@ -79,6 +85,7 @@ private:
     friend class gnl_detail::option_set;
 
     static constexpr std::uint32_t unregistered = 0xffffffffU;
+    static constexpr std::uint32_t refused = 0xfffffffeU; ///< the parent was told, and did not take the element
 
     GNL_GENERATOR * m_parent; ///< not owned
     std::string m_name;

@@ -428,6 +428,12 @@ public:
     bool generate_differing_slices(std::ostream & stream);
     /// Brings a slice's parameters up to the values of its master, once.
     void fill_slice_parameters();
+
+private:
+    /// On a slice: takes the value of the master's parameter over, unless it was given one of its own.
+    void take_value_of_master(GNL_PARAMETER & parameter);
+
+public:
     /// @}
 
     /// @name Clean-up
@@ -725,6 +731,7 @@ private:
     std::unique_ptr<front_end_lists> m_front_end_lists;
     std::map<int, std::unique_ptr<GNL_TIMING_ASSIGNMENT>> m_timing_assignments;
 
+    friend class gnl_detail::element_registry;
     friend class gnl_detail::option_set;
     friend class GNL_PRIMITIVE;
 };

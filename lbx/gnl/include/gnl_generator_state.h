@@ -4,6 +4,7 @@
 
 #include <list>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -85,7 +86,7 @@ struct generator_state
     bool vorlan_interface_mode : 1 = false;
     bool rules_validator_ready : 1 = false;
     bool slice_parameters_filled : 1 = false; ///< on a slice: the master's parameter values have been taken over
-    bool filling_slices : 1 = false;          ///< while values pass from a master to its slices
+    bool taking_master_values : 1 = false;    ///< on a slice: while values of the master are passed to it
 
     int array_width = 0; ///< number of slices, 0 when this is no array
     int slice_index = -1;
@@ -112,6 +113,8 @@ struct generator_state
     string_map list_of_subdesigns; ///< on the top generator: subdesign name to header
     count_map resource_map;
     string_map simulation_library_map;
+    std::set<std::string, LESS_C_STRING> own_parameters; ///< on a slice: the parameters that it was given itself
+    std::vector<std::string> own_values; ///< on a slice: the parameters that were given a value here
     std::vector<std::string> internal_options;
     std::vector<std::string> hdl_attributes;
     string_map simulation_only_ports;
