@@ -2,9 +2,9 @@
 
 #include "gnl_generator.h"
 
-#include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/core_messages.h"
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/core/one_slice_widths.h"
 
 #include <algorithm>
 
@@ -87,21 +87,18 @@ void pass_value(GNL_PARAMETER & source, GNL_GENERATOR & slice)
 
 } // namespace
 
-/// Passes the value of one parameter on to a slice, unless the slice has a value of its own.
-void GNL_GENERATOR::pass_parameter_value(GNL_PARAMETER & parameter, GNL_GENERATOR & slice)
+void GNL_GENERATOR::take_value_of_master(GNL_PARAMETER & parameter)
 {
     // Slices read inherit-only parameters from above, as their master does.
     if (parameter.is_inherit_only())
         return;
-    slice.initialize_param_list();
-    auto const & own = slice.m_state.own_values;
-    if (std::any_of(own.begin(), own.end(),
-                    [&](std::string const & name) { return gnl_detail::equal_folded(name, parameter.get_name()); }))
+    initialize_param_list();
+    if (m_state.own_parameters.count(parameter.get_name()) != 0)
         return;
-    slice.m_state.slice_parameters_filled = true;
-    slice.m_state.filling_slices = true;
-    pass_value(parameter, slice);
-    slice.m_state.filling_slices = false;
+    m_state.slice_parameters_filled = true;
+    m_state.taking_master_values = true;
+    pass_value(parameter, *this);
+    m_state.taking_master_values = false;
 }
 
 void GNL_GENERATOR::assign_parameter_values_to_slice(int index)
@@ -111,7 +108,7 @@ void GNL_GENERATOR::assign_parameter_values_to_slice(int index)
         return;
     for (GNL_PARAMETER * parameter : m_registry->declared_parameters())
         if (parameter->value_changed())
-            pass_parameter_value(*parameter, *slice);
+            slice->take_value_of_master(*parameter);
 }
 
 void GNL_GENERATOR::fill_slice_parameters()
@@ -129,7 +126,7 @@ void GNL_GENERATOR::update_heterogeneous_slices(std::string const & name, std::s
         return;
     for (int i = 0; i < m_state.array_width; ++i)
         if (GNL_GENERATOR * const slice = get_array_slice(i); slice != this)
-            pass_parameter_value(*parameter, *slice);
+            slice->take_value_of_master(*parameter);
 }
 
 void GNL_GENERATOR::parameter_value_has_changed(std::string const & name, std::string const &,
@@ -142,24 +139,15 @@ void GNL_GENERATOR::parameter_value_has_changed(std::string const & name, std::s
     }
     if (m_state.master_array)
         update_heterogeneous_slices(name, new_value);
-    if (m_state.slice_index < 0 || m_state.filling_slices)
+    if (m_state.slice_index < 0 || m_state.taking_master_values)
         return;
-    m_state.own_values.push_back(name);
+    m_state.own_parameters.insert(name);
     if (m_state.array_parent)
         m_state.array_parent->set_as_heterogeneous_array();
     set_as_heterogeneous_element();
 }
 
 // ---- Ports
-
-namespace {
-
-int declared_width(GNL_PORT const & port)
-{
-    return port.get_2d_width() > 0 ? port.get_original_width() * port.get_2d_width() : port.get_original_width();
-}
-
-} // namespace
 
 void GNL_GENERATOR::multiply_array_port_widths()
 {
@@ -168,7 +156,7 @@ void GNL_GENERATOR::multiply_array_port_widths()
     for (GNL_PORT & port : m_registry->ports()) {
         if (!port.is_simple_port())
             continue;
-        int const even = std::max(declared_width(port), 1) * m_state.array_width;
+        int const even = std::max(gnl_detail::declared_slice_width(port), 1) * m_state.array_width;
         int sum = 0;
         if (m_state.master_array)
             for (int i = 0; i < m_state.array_width; ++i)

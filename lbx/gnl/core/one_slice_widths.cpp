@@ -4,15 +4,11 @@
 
 namespace gnl_detail {
 
-namespace {
-
-int slice_width(GNL_PORT const & port)
+int declared_slice_width(GNL_PORT const & port)
 {
     int const rows = port.get_2d_width();
     return rows > 0 ? port.get_original_width() * rows : port.get_original_width();
 }
-
-} // namespace
 
 one_slice_widths::one_slice_widths(GNL_GENERATOR & generator)
 {
@@ -20,9 +16,9 @@ one_slice_widths::one_slice_widths(GNL_GENERATOR & generator)
         return;
     generator.made_port_connection("");
     for (auto & port : generator.registry().ports())
-        if (port.is_simple_port() && port.get_default_width() != slice_width(port)) {
+        if (port.is_simple_port() && port.get_default_width() != declared_slice_width(port)) {
             m_whole_widths.emplace_back(&port, port.get_default_width());
-            port.set_width_safe(slice_width(port), false);
+            port.set_width_safe(declared_slice_width(port), false);
         }
 }
 

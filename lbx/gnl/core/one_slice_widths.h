@@ -7,6 +7,9 @@
 
 namespace gnl_detail {
 
+/// The declared width of a port of one slice: bits in all its rows, 0 for a scalar.
+int declared_slice_width(GNL_PORT const & port);
+
 /// While it lives, the ports of an array have the width of one slice: the common design of an array is the design of
 /// one slice, and its body must read the widths that it would read without an array.
 class one_slice_widths

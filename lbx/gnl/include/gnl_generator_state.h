@@ -114,7 +114,6 @@ struct generator_state
     count_map resource_map;
     string_map simulation_library_map;
     std::set<std::string, LESS_C_STRING> own_parameters; ///< on a slice: the parameters that it was given itself
-    std::vector<std::string> own_values; ///< on a slice: the parameters that were given a value here
     std::vector<std::string> internal_options;
     std::vector<std::string> hdl_attributes;
     string_map simulation_only_ports;
