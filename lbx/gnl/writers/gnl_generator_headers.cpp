@@ -217,6 +217,8 @@ std::string version_fields(GNL_GENERATOR & design)
 
 } // namespace
 
+void GNL_GENERATOR::get_version(std::map<std::string, std::string, LESS_C_STRING> &) {}
+
 std::string GNL_GENERATOR::dump_version_header()
 {
     auto const fields = version_fields(*this);
