@@ -82,7 +82,7 @@ TEST_F(BidirDriver, RangeOfAnythingElseIsReported)
     io.set_driven_bidir_port(&part);
     EXPECT_EQ(special_driver(io, top), "");
     EXPECT_EQ(top.messages(),
-              texts{error("Bidir port top|leaf:u1|io is illegally connected to a non bidir port "
+              texts{error("Bidir port top|leaf inst u1|io is illegally connected to a non bidir port "
                               + part.get_hierarchical_name() + " through a bidir--bidir connection.",
                           " A bidir port is driven by a range object that is not derived from a bidir port. This will "
                           "generate an illegal bidir to bidir connection where one of them is as a result, a non bidir "

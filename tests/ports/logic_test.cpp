@@ -154,10 +154,11 @@ TEST_F(Logic, OperandsThatCannotBeReadAreReported)
     !own;
     std::string const start = "Logical operation AND cannot be performed on port ";
     std::string const end = ", as port cannot appear in the RHS at the level top";
-    EXPECT_EQ(top.messages(), (texts{error(start + "top|own with top|leaf:u1|fed" + end, operand_cause, operand_action),
-                                     error(start + "top|leaf:u1|fed with top|own" + end, operand_cause, operand_action),
-                                     error("Logical operation NOT cannot be performed on port top|own" + end,
-                                           operand_cause, operand_action)}));
+    EXPECT_EQ(top.messages(),
+              (texts{error(start + "top|own with top|leaf inst u1|fed" + end, operand_cause, operand_action),
+                     error(start + "top|leaf inst u1|fed with top|own" + end, operand_cause, operand_action),
+                     error("Logical operation NOT cannot be performed on port top|own" + end, operand_cause,
+                           operand_action)}));
     EXPECT_EQ(made.get_connection_level(), nullptr);
     EXPECT_FALSE(own.check_is_used_flag());
 }

@@ -111,36 +111,4 @@ TEST_F(SourceName, SliceShowsItsIndexInVhdlWhenTheLoopIsUnrolled)
     EXPECT_EQ(names(slice.port("io")), "io  wire_arr_3io");
 }
 
-/// An input that `make_driver` drives, asked whether its driver is an inversion.
-bool inverted(int language, std::function<GNL_PORT &(open_design &)> const & make_driver)
-{
-    open_design top(language);
-    auto & input = top.child("leaf", "u1").input("clk");
-    input.replace_driver(&make_driver(top));
-    return input.has_inverted_port_driver();
-}
-
-TEST_F(SourceName, InversionOfASimplePortIsFound)
-{
-    EXPECT_TRUE(inverted(GNL_VERILOG, [](open_design & top) -> GNL_PORT & { return !top.input("a"); }));
-    EXPECT_FALSE(inverted(GNL_VERILOG, [](open_design & top) -> GNL_PORT & { return top.input("a"); }));
-    EXPECT_FALSE(
-        inverted(GNL_VERILOG, [](open_design & top) -> GNL_PORT & { return top.input("a") & top.input("b"); }));
-    EXPECT_FALSE(inverted(GNL_VERILOG, [](open_design & top) -> GNL_PORT & { return !top.input("a", 4)[2]; }));
-    EXPECT_TRUE(inverted(GNL_VERILOG, [](open_design & top) -> GNL_PORT & { return !top.input("a", 2); }));
-    EXPECT_FALSE(inverted(GNL_VHDL, [](open_design & top) -> GNL_PORT & { return !top.input("a", 2); }));
-    EXPECT_TRUE(inverted(GNL_VHDL, [](open_design & top) -> GNL_PORT & { return !top.input("a", 1); }));
-}
-
-TEST_F(SourceName, InversionIsLookedUpOnTheArrayForASlice)
-{
-    open_design top(GNL_VERILOG);
-    auto & cells = top.array(2, [](design & cell) { cell.input("clk"); });
-    auto & slice = cells[1].port("clk");
-    EXPECT_FALSE(slice.has_inverted_port_driver());
-    cells.port("clk") = !top.input("a");
-    EXPECT_TRUE(slice.has_inverted_port_driver());
-    EXPECT_TRUE(cells.port("clk").has_inverted_port_driver());
-}
-
 } // namespace

@@ -225,8 +225,7 @@ public:
     bool check_port_assignment(int low, int high);
     bool check_if_driven_at_bits(int low, int high);
     virtual bool are_all_bits_used() { return true; }
-    /// Whether the driver is a NOT of a simple port; a slice without a driver asks the array's port. Defined in
-    /// ports/gnl_port_source_name.cpp.
+    /// Whether the driver is a NOT of a simple port; a slice without a driver asks the array's port.
     bool has_inverted_port_driver();
 
     static bool check_port_equivalence_across_hierarchies(GNL_PORT * a, GNL_PORT * b);

@@ -38,17 +38,3 @@ std::string GNL_PORT::get_source_name(bool for_connection)
         name += get_name();
     return name;
 }
-
-bool GNL_PORT::has_inverted_port_driver()
-{
-    if (!m_driver) {
-        GNL_PORT * const whole = port_place(*this).on_array();
-        return whole && whole->has_inverted_port_driver();
-    }
-    if (!m_driver->is_logic())
-        return false;
-    auto const & inversion = static_cast<GNL_PORT_LOGIC const &>(*m_driver);
-    GNL_PORT * const operand = inversion.get_first_operand();
-    return inversion.is_not_port() && operand && operand->is_simple_port()
-           && (!is_vhdl() || operand->get_bus_width() < 2);
-}
