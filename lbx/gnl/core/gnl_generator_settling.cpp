@@ -78,6 +78,7 @@ void GNL_GENERATOR::settle_port_widths(std::string const & port_name)
         level->initialize_param_list();
         if (level->get_parent())
             level->update_legacy_parameter_values();
+        level->set_vector_parameter_widths(); // first: a value that waited for its width is no late assignment
         level->m_state.port_connections_made = true;
         level->process_port_widths();
         if (level->m_state.master_array) {
