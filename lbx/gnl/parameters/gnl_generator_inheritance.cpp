@@ -141,9 +141,7 @@ GNL_PARAMETER_ARRAY * GNL_GENERATOR::get_inherited_parameter_array_object(std::s
 
 GNL_PARAMETER * GNL_GENERATOR::value_given_for(std::string const & name)
 {
-    if (get_parent() && !get_inherited_parameter_object(name))
-        return nullptr; // without reading the text: that would give this generator a name before its turn
-    initialize_param_list();
+    // The text is not read for this: a subdesign may ask while the generators above are still being constructed.
     GNL_PARAMETER * const given = get_inherited_parameter_object(name);
     return given && (!get_parent() || given->value_changed()) ? given : nullptr;
 }
