@@ -72,6 +72,7 @@ TEST_F(PortDescription, InputsAndOutputsOfAnUnevenArrayShowTheRangeOfTheSlices)
         cell.wire("w", 8);
         cell.bidir("io", 8);
     });
+    cells.create_slices();
     cells.set_as_heterogeneous_array();
     EXPECT_EQ(described(cells.port("a"), top), "arr[3..0].a[]");
     EXPECT_EQ(described(cells.port("q"), top), "arr[3..0].q[]");

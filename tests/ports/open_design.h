@@ -17,6 +17,7 @@ public:
         : design(nullptr, "top", text)
     {
         set_gen_language(language);
+        initialize_param_list(); // options are not for the body to change
         if (in_body)
             set_in_rtl_body();
     }
