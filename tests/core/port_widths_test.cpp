@@ -16,6 +16,14 @@ protected:
                      "or is a string parameter (only integer parameters can be used to specify widths of ports).",
                      "Use a valid integer parameter name to specify port widths.");
     }
+    static std::string missing(std::string const & parameter)
+    {
+        return error("No integer parameter object " + parameter + " exists in top",
+                     "The parameter object does not exist or is of a different parameter type.",
+                     "Lumen box parameter names are case insensitive. Check for spelling mistakes or for the use of "
+                     "incorrect accessor functions (using parameter_integer () function for a string parameter or vice "
+                     "versa).");
+    }
 };
 
 TEST_F(PortWidths, ComeFromExpressionsForAllPins)
@@ -52,7 +60,8 @@ TEST_F(PortWidths, StayWhenTheExpressionHasNoValue)
     GNL_PORT_INPUT b(&top, "b", "TEXT");
     EXPECT_EQ(a.get_width(), 0);
     EXPECT_EQ(b.get_width(), 0);
-    EXPECT_EQ(top.messages(), (texts{invalid("NOWHERE", "top|a"), invalid("TEXT", "top|b")}));
+    EXPECT_EQ(top.messages(),
+              (texts{missing("NOWHERE"), invalid("NOWHERE", "top|a"), missing("TEXT"), invalid("TEXT", "top|b")}));
 }
 
 TEST_F(PortWidths, StayOneDimensionalWhenTheSecondHasNoValue)
@@ -61,7 +70,7 @@ TEST_F(PortWidths, StayOneDimensionalWhenTheSecondHasNoValue)
     top.integer("WIDTH", 6);
     GNL_PORT_INPUT a(&top, "a", "WIDTH", "NOWHERE");
     EXPECT_EQ(a.get_width(), 6);
-    EXPECT_EQ(top.messages(), texts{invalid("NOWHERE", "top|a")});
+    EXPECT_EQ(top.messages(), (texts{missing("NOWHERE"), invalid("NOWHERE", "top|a")}));
 }
 
 TEST_F(PortWidths, StayOneDimensionalWhenTheProductIsTooLarge)

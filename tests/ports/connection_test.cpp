@@ -191,7 +191,7 @@ TEST_F(Connection, TakesAnExpressionOnTheLeft)
 TEST_F(Connection, OfAnUnfedInputNeedsADefault)
 {
     open_design top(GNL_VERILOG);
-    auto & late = top.input("late");
+    auto & late = static_cast<design &>(top).input("late");
     auto & y = top.output("y");
     y = late;
     EXPECT_EQ(y.get_driver(), &late);

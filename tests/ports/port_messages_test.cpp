@@ -80,6 +80,12 @@ struct scenario
     std::string expected;
 };
 
+/// An input named a that is not connected and has no default.
+GNL_PORT & unfed_input(open_design & top, int width = 0)
+{
+    return *new GNL_PORT_INPUT(&top, "a", width);
+}
+
 /// An array whose slices have ports of 2 and 3 bits, and so no common width.
 GNL_PORT & uneven_port(open_design & top)
 {
@@ -102,8 +108,8 @@ std::vector<scenario> model_scenarios()
 {
     return {
         {port_message::invalid_width_expression,
-         [](open_design & top) { (new GNL_PORT_INPUT(&top, "a", "NOWHERE"))->get_width(); },
-         error("Invalid parameter NOWHERE is used to specify the width of port top|a.", bad_expression,
+         [](open_design & top) { (new GNL_PORT_INPUT(&top, "a", "2*("))->get_width(); },
+         error("Invalid parameter 2*( is used to specify the width of port top|a.", bad_expression,
                "Use a valid integer parameter name to specify port widths.")},
         {port_message::width_changed_outside, [](open_design & top) { top.input("a", 4).set_width(8, true); },
          error("Port top|a's port width is being changed outside of update_port_widths() function.",
@@ -278,7 +284,7 @@ std::vector<scenario> connection_scenarios()
                "connection "
                "level top",
                sink_as_source)},
-        {port_message::unconnected_input, [](open_design & top) { top.output("y") = top.input("a"); },
+        {port_message::unconnected_input, [](open_design & top) { top.output("y") = unfed_input(top); },
          error("Input port top|a is being assigned to top|y but the input port has no default value and has not been "
                "connected.",
                unconnected)},
@@ -327,7 +333,7 @@ std::vector<scenario> range_scenarios()
              d.range(2, 1);
          },
          error(
-             "Range operation is being performed on top|cell inst arr array|d but the range operation is illegal, as "
+             "Range operation is being performed on top|cell inst arr|d but the range operation is illegal, as "
              "either the indices are illegal or the parent of the port is a heterogeneous array.",
              "The range object has illegal indices for the array object. When a range operation is being performed on "
              "a port of an array object, the range indices should not start in the middle of one slice's port and end "
@@ -340,7 +346,7 @@ std::vector<scenario> range_scenarios()
          error("Range operation on port top|b has illegal range indices, high index is 1 but low index is 3",
                "The higher index of the port is less than the lower index.")},
         {port_message::unconnected_input_in_range,
-         [](open_design & top) { top.output("y", 2) = top.input("a", 4).range(1, 0); },
+         [](open_design & top) { top.output("y", 2) = unfed_input(top, 4).range(1, 0); },
          error("Range object top|a|range--w_a_range1w of input port top|a is being used, but the input port is not "
                "connected and has no default.",
                unconnected)},
@@ -412,7 +418,7 @@ std::vector<scenario> concat_scenarios()
          error("Concat operation cannot be performed on port top|y with top|b, as port cannot appear in the RHS at the "
                "level top",
                concat_operand, use_other_concat_operand)},
-        {port_message::unconnected_input_in_concat, [](open_design & top) { (top.input("a"), top.wire("b")); },
+        {port_message::unconnected_input_in_concat, [](open_design & top) { (unfed_input(top), top.wire("b")); },
          error("Input port top|a is being used in concat operation with top|b but the input port has no default value "
                "and has not been connected.",
                unconnected)},
@@ -455,7 +461,7 @@ std::vector<scenario> logic_scenarios()
              "Logical operation XOR cannot be performed on port top|y with top|b, as port cannot appear in the RHS at "
              "the level top",
              logic_operand, use_other_operand)},
-        {port_message::unconnected_input_in_logic, [](open_design & top) { top.input("a") & top.wire("b"); },
+        {port_message::unconnected_input_in_logic, [](open_design & top) { unfed_input(top) & top.wire("b"); },
          error("Input port top|a is being used in logical operation AND with top|b but the input port has no default "
                "value and has not been connected.",
                unconnected)},
@@ -470,7 +476,7 @@ std::vector<scenario> logic_scenarios()
          error("Logical operation NOT cannot be performed on port top|y, as port cannot appear in the RHS at the level "
                "top",
                logic_operand, use_other_operand)},
-        {port_message::unconnected_input_in_not, [](open_design & top) { ~top.input("a"); },
+        {port_message::unconnected_input_in_not, [](open_design & top) { ~unfed_input(top); },
          error(
              "Input port top|a is being used in logical operation NOT but the input port has no default value and has "
              "not been connected.",

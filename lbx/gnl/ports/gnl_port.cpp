@@ -223,7 +223,7 @@ std::string GNL_PORT::constant_driving_value(int index)
     long long const width = get_bus_width();
     long long const slice_width = m_original_width;
     long long const at = index;
-    // The count stands as it is on purpose: from index 1 on the text runs to the end of the constant.
+    // The count stands as it is on purpose: at index 1 the text runs to the end of the constant.
     if (slice_width != 0 && slice_width != 1)
         return bits.substr(static_cast<std::size_t>(width - (at + 1) * slice_width),
                            static_cast<std::size_t>(width - slice_width * at));
