@@ -428,6 +428,33 @@ TEST_F(Subdesigns, WidthsAreSettledOnce)
     EXPECT_EQ(top.messages().size(), 1u) << "an assignment that comes too late";
 }
 
+TEST_F(Subdesigns, APinThatIsDeclaredAfterAConnectionGetsItsWidth)
+{
+    design top(nullptr, "top");
+    auto & array = top.child("cell", "u", "", 3);
+    EXPECT_EQ(array.input("d", 4).get_width(), 12);
+    EXPECT_EQ(array.output("q", 2).get_width(), 6);
+    EXPECT_EQ(array.port("d").get_width(), 12);
+    auto & size = top.integer("SIZE", 4);
+    EXPECT_EQ((*new GNL_PORT_INPUT(&top, "a", std::string("SIZE"))).get_width(), 4);
+    EXPECT_EQ((*new GNL_PORT_OUTPUT(&top, "b", std::string("2*SIZE"))).get_width(), 8);
+    EXPECT_EQ((*new GNL_PORT_BIDIR(&top, "c", std::string("3*SIZE"))).get_width(), 12);
+    EXPECT_FALSE(size.value_changed());
+    EXPECT_EQ(top.messages(), texts{});
+}
+
+TEST_F(Subdesigns, AParameterThatIsDeclaredAfterAConnectionCanBeAssigned)
+{
+    design top(nullptr, "top");
+    EXPECT_EQ(top.input("a").get_width(), 0);
+    auto & size = top.integer("SIZE", 4);
+    size = 6;
+    EXPECT_EQ(top.messages(), texts{});
+    EXPECT_EQ(top.port("a").get_width(), 0);
+    size = 7;
+    EXPECT_EQ(top.messages().size(), 1u);
+}
+
 TEST_F(Subdesigns, PortWidthsCanBeProcessedAgain)
 {
     probe top(nullptr, "top");

@@ -93,6 +93,16 @@ void GNL_GENERATOR::settle_port_widths(std::string const & port_name)
     }
 }
 
+void GNL_GENERATOR::declared_late()
+{
+    // What a body declares for itself has the width that it was given.
+    if (m_state.in_rtl_body || m_state.in_update_port_widths)
+        return;
+    m_state.port_connections_made = false;
+    if (m_state.slice_index >= 0 && m_state.array_parent)
+        m_state.array_parent->declared_late();
+}
+
 void GNL_GENERATOR::set_not_supported()
 {
     m_state.not_supported = true;

@@ -146,6 +146,9 @@ public:
             settle_port_widths(port_name);
     }
     bool port_connections_made() const { return m_state.port_connections_made; }
+    /// Internal: a pin or a parameter is declared after the first connection. The widths are settled anew at the next
+    /// one; until then the parameters may be assigned.
+    void declared_late();
     /// The simulation libraries that the design needs, each followed by ";"; "no_simlib" when there are none.
     char const * get_simulation_library();
 

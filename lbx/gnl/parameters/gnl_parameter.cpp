@@ -84,6 +84,8 @@ GNL_PARAMETER_EXPR & GNL_PARAMETER_EXPR::operator%(int value)
 GNL_PARAMETER::GNL_PARAMETER(GNL_GENERATOR * parent, std::string const & name)
     : GNL_ELEMENT(parent, name, parameter_tag())
 {
+    if (parent && parent->port_connections_made())
+        parent->declared_late();
 }
 
 GNL_PARAMETER::GNL_PARAMETER(GNL_PARAMETER const & other) = default;

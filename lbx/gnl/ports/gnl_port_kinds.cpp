@@ -19,6 +19,14 @@ char const * text_or_null(std::string const & text)
     return text.empty() ? nullptr : text.c_str();
 }
 
+/// A pin that is declared after the first connection still has its width to get, from its expression or its array.
+void tell_late_pin(GNL_GENERATOR * parent, bool has_expression)
+{
+    if (parent && parent->port_connections_made()
+        && (has_expression || parent->get_array_width() > 0 || parent->get_slice_index() >= 0))
+        parent->declared_late();
+}
+
 /// Only a default of 1 reads as a logic one.
 std::string default_text(int default_value, int width)
 {
@@ -79,6 +87,7 @@ std::string settled_wire_name(GNL_GENERATOR * parent, std::string const & name, 
 GNL_PORT_INPUT::GNL_PORT_INPUT(GNL_GENERATOR * parent, std::string const & name, int width, int width_2d)
     : GNL_PORT(parent, name, width, width_2d)
 {
+    tell_late_pin(parent, false);
 }
 
 GNL_PORT_INPUT::GNL_PORT_INPUT(GNL_GENERATOR * parent, std::string const & name, std::string const & width_expression,
@@ -87,6 +96,7 @@ GNL_PORT_INPUT::GNL_PORT_INPUT(GNL_GENERATOR * parent, std::string const & name,
     , m_width_parameter_name(width_expression)
     , m_width_2d_parameter_name(width_2d_expression)
 {
+    tell_late_pin(parent, true);
 }
 
 void GNL_PORT_INPUT::set_default_port_value(int value)
@@ -126,6 +136,7 @@ bool GNL_PORT_INPUT::are_all_bits_used()
 GNL_PORT_OUTPUT::GNL_PORT_OUTPUT(GNL_GENERATOR * parent, std::string const & name, int width, int width_2d)
     : GNL_PORT(parent, name, width, width_2d)
 {
+    tell_late_pin(parent, false);
 }
 
 GNL_PORT_OUTPUT::GNL_PORT_OUTPUT(GNL_GENERATOR * parent, std::string const & name, std::string const & width_expression,
@@ -134,6 +145,7 @@ GNL_PORT_OUTPUT::GNL_PORT_OUTPUT(GNL_GENERATOR * parent, std::string const & nam
     , m_width_parameter_name(width_expression)
     , m_width_2d_parameter_name(width_2d_expression)
 {
+    tell_late_pin(parent, true);
 }
 
 void GNL_PORT_OUTPUT::set_default_port_value(int value)
@@ -167,6 +179,7 @@ bool GNL_PORT_OUTPUT::are_all_bits_used()
 GNL_PORT_BIDIR::GNL_PORT_BIDIR(GNL_GENERATOR * parent, std::string const & name, int width, int width_2d)
     : GNL_PORT(parent, name, width, width_2d)
 {
+    tell_late_pin(parent, false);
 }
 
 GNL_PORT_BIDIR::GNL_PORT_BIDIR(GNL_GENERATOR * parent, std::string const & name, std::string const & width_expression,
@@ -175,6 +188,7 @@ GNL_PORT_BIDIR::GNL_PORT_BIDIR(GNL_GENERATOR * parent, std::string const & name,
     , m_width_parameter_name(width_expression)
     , m_width_2d_parameter_name(width_2d_expression)
 {
+    tell_late_pin(parent, true);
 }
 
 char const * GNL_PORT_BIDIR::get_width_parameter_name() const
