@@ -205,14 +205,14 @@ void element_registry::enter(slot which)
 
 void element_registry::file_under(GNL_ELEMENT & element, std::string const & key)
 {
+    file_pending();
     add_entry(element);
-    file_all_pending();
-    slot const which = element.m_slot;
-    if (m_entries[which].state != entry_state::filed)
-        return; // a generator that waits for its name
-    if (equal_folded(key, element.generate_key()))
+    slot const which = m_filed_end++;
+    if (equal_folded(key, element.generate_key())) {
+        file(which);
         return;
-    unfile(which);
+    }
+    m_entries[which].kind = kind_of(element);
     if (slot const holder = find_by_text(key); holder != slot_table::none)
         shadow(holder);
     seldom().by_explicit_key[key] = which;

@@ -65,6 +65,8 @@ void GNL_GENERATOR::slice_grouping::move_up(GNL_PORT & port, GNL_PORT & of_slice
     int const width = of_slice.get_bus_width();
     int const high = (slice + 1) * width - 1;
     int const low = slice * width;
+    if (!port.check_port_assignment(low, high))
+        return; // moved up before
     if (auto * driver = of_slice.get_driver())
         port.make_connection(*driver, high, low, &m_level, false);
     else if (of_slice.is_driven_by_constant())
