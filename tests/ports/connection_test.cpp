@@ -2,6 +2,8 @@
 
 #include "open_design.h"
 
+#include <type_traits>
+
 namespace {
 
 using namespace gnl_test;
@@ -22,6 +24,38 @@ TEST_F(Connection, StoresDriverLevelAndUse)
     EXPECT_TRUE(a.check_is_used_flag());
     EXPECT_FALSE(y.is_driven_by_constant());
     EXPECT_EQ(a.get_driver_count(), 1);
+    EXPECT_EQ(top.messages(), texts{});
+}
+
+// A generator is no source.
+static_assert(!std::is_assignable_v<GNL_PORT &, GNL_GENERATOR &>);
+static_assert(!std::is_assignable_v<GNL_PORT_INPUT &, GNL_GENERATOR &>);
+static_assert(!std::is_assignable_v<GNL_PORT_OUTPUT &, GNL_GENERATOR &>);
+static_assert(!std::is_assignable_v<GNL_PORT_BIDIR &, GNL_GENERATOR &>);
+static_assert(!std::is_assignable_v<GNL_WIRE &, GNL_GENERATOR &>);
+
+TEST_F(Connection, OfTwoPortsOfOneKindConnectsAndDoesNotCopy)
+{
+    open_design top(GNL_VERILOG);
+    design & one = top.child("cell", "u1");
+    design & two = top.child("cell", "u2");
+    GNL_PORT_INPUT & d = one.input("d");
+    GNL_PORT_INPUT & a = top.input("a");
+    GNL_PORT_OUTPUT & y = top.output("y");
+    GNL_PORT_OUTPUT & q = two.output("q");
+    GNL_PORT_BIDIR & io = top.bidir("io");
+    GNL_PORT_BIDIR & jo = top.bidir("jo");
+    GNL_WIRE & v = top.wire("v");
+    GNL_WIRE & w = top.wire("w");
+    d = a;
+    y = q;
+    io = jo;
+    v = w;
+    EXPECT_EQ(d.get_driver(), &a);
+    EXPECT_EQ(y.get_driver(), &q);
+    EXPECT_EQ(io.get_driver(), &jo);
+    EXPECT_EQ(v.get_driver(), &w);
+    EXPECT_EQ(d.get_name(), "d");
     EXPECT_EQ(top.messages(), texts{});
 }
 
