@@ -22,29 +22,29 @@ std::string verilog_constant(std::string_view bits, int bus_width)
     return std::to_string(bus_width) + "'b" + std::string(bits);
 }
 
-void write_vhdl_bit_string(std::ostream & out, std::string_view bits)
+void write_vhdl_bit_string(text_sink & text, std::string_view bits)
 {
     if (bits.size() <= longest_vhdl_string) {
-        out << '"' << bits << '"';
+        text << "\"" << bits << "\"";
         return;
     }
     std::string_view separator = "";
     for (; !bits.empty(); bits.remove_prefix(std::min(bits.size(), longest_vhdl_string))) {
-        out << separator << '"' << bits.substr(0, longest_vhdl_string) << "\"\n";
+        text << separator << "\"" << bits.substr(0, longest_vhdl_string) << "\"\n";
         separator = " & ";
     }
 }
 
-void write_constant(std::ostream & out, std::string_view bits, int bus_width)
+void write_constant(text_sink & text, std::string_view bits, int bus_width)
 {
     if (bits.empty())
         return;
     if (GNL_ELEMENT::is_verilog())
-        out << verilog_constant(bits, bus_width);
+        text << verilog_constant(bits, bus_width);
     else if (GNL_ELEMENT::is_vhdl())
-        write_vhdl_bit_string(out, bits);
+        write_vhdl_bit_string(text, bits);
     else
-        out << "B\"" << bits << '"';
+        text << "B\"" << bits << "\"";
 }
 
 } // namespace gnl_detail

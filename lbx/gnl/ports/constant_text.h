@@ -1,6 +1,7 @@
 #pragma once
 
-#include <ostream>
+#include "lbx/gnl/writers/text_sink.h"
+
 #include <string>
 #include <string_view>
 
@@ -11,9 +12,9 @@ namespace gnl_detail {
 std::string verilog_constant(std::string_view bits, int bus_width);
 
 /// The VHDL string literal of `bits`, in pieces of at most 1000 digits, which is what tools read on one line.
-void write_vhdl_bit_string(std::ostream & out, std::string_view bits);
+void write_vhdl_bit_string(text_sink & text, std::string_view bits);
 
 /// A constant of `bus_width` bits in the language that is being written; nothing without bits.
-void write_constant(std::ostream & out, std::string_view bits, int bus_width);
+void write_constant(text_sink & text, std::string_view bits, int bus_width);
 
 } // namespace gnl_detail

@@ -16,7 +16,7 @@ bool holds_others(GNL_PORT const & port)
 
 void description_writer::run(GNL_PORT & port, GNL_GENERATOR * level, bool with_index, GNL_PORT * target)
 {
-    this->port(port, level, with_index, target);
+    describe({&port, level, target, with_index});
     stack_pending();
     while (!m_stack.empty()) {
         piece next = std::move(m_stack.back());
@@ -28,6 +28,8 @@ void description_writer::run(GNL_PORT & port, GNL_GENERATOR * level, bool with_i
 
 void description_writer::stack_pending()
 {
+    if (m_pending.empty())
+        return;
     m_stack.insert(m_stack.end(), std::make_move_iterator(m_pending.rbegin()),
                    std::make_move_iterator(m_pending.rend()));
     m_pending.clear();
@@ -36,7 +38,7 @@ void description_writer::stack_pending()
 void description_writer::text(std::string_view text)
 {
     if (m_pending.empty())
-        m_out << text;
+        m_text << text;
     else
         m_pending.emplace_back(std::string(text));
 }
@@ -53,7 +55,7 @@ void description_writer::port(GNL_PORT & port, GNL_GENERATOR * level, bool with_
 void description_writer::call(action step)
 {
     if (m_pending.empty())
-        step(m_out);
+        step(m_text.stream());
     else
         m_pending.emplace_back(std::move(step));
 }
@@ -61,11 +63,11 @@ void description_writer::call(action step)
 void description_writer::write(piece & next)
 {
     if (auto const * text = std::get_if<std::string>(&next))
-        m_out << *text;
+        m_text << *text;
     else if (auto const * of = std::get_if<reference>(&next))
         describe(*of);
     else
-        std::get<action>(next)(m_out);
+        std::get<action>(next)(m_text.stream());
 }
 
 void description_writer::describe(reference const & of)

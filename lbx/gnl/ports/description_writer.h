@@ -2,6 +2,8 @@
 
 #include "gnl_port.h"
 
+#include "lbx/gnl/writers/text_sink.h"
+
 #include <functional>
 #include <ostream>
 #include <string>
@@ -23,7 +25,7 @@ namespace gnl_detail {
 ///     writer.port(*m_second_operand, level, with_index, target);
 ///     writer.text(")");
 ///
-/// A port that holds no others may write to `out()` directly instead.
+/// A port that holds no others may write to `sink()` directly instead.
 class description_writer
 {
 public:
@@ -31,7 +33,7 @@ public:
     using action = std::function<void(std::ostream &)>;
 
     explicit description_writer(std::ostream & out)
-        : m_out(out)
+        : m_text(out)
     {
     }
     description_writer(description_writer const &) = delete;
@@ -40,8 +42,8 @@ public:
     /// Writes the whole reference to `port`.
     void run(GNL_PORT & port, GNL_GENERATOR * level, bool with_index, GNL_PORT * target);
 
-    /// The stream, for a `describe` that hands over no pieces at all.
-    std::ostream & out() { return m_out; }
+    /// Where a `describe` that hands over no pieces at all writes.
+    text_sink & sink() { return m_text; }
 
     void text(std::string_view text);
     void port(GNL_PORT & port, GNL_GENERATOR * level, bool with_index, GNL_PORT * target);
@@ -62,7 +64,7 @@ private:
     void write(piece & next);
     void describe(reference const & of);
 
-    std::ostream & m_out;
+    text_sink m_text;
     std::vector<piece> m_stack;   ///< what is still to be written, the next piece last
     std::vector<piece> m_pending; ///< what the running `describe` has handed over to wait
 };

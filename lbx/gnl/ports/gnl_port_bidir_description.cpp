@@ -7,39 +7,40 @@ using namespace gnl_detail;
 namespace {
 
 /// A bidir that is driven stands behind a node of its own, which is named without a subscript.
-void write_qhdl_prefix(std::ostream & out, GNL_PORT_BIDIR const & port)
+void write_qhdl_prefix(text_sink & text, GNL_PORT_BIDIR const & port)
 {
     port_place const place(port);
-    out << port.get_parent_instance_name();
+    text << port.get_parent_instance_name();
     if (port.get_driver() || port.is_driven_by_constant()) {
         if (place.is_slice())
-            out << place.slice_index();
-        out << "_";
+            text << place.slice_index();
+        text << "_";
         return;
     }
-    write_instance_subscript(out, port, false);
-    out << ".";
+    write_instance_subscript(text, port, false);
+    text << ".";
 }
 
-void describe_signal(std::ostream & out, GNL_PORT_BIDIR & port, bool with_index)
+void describe_signal(text_sink & text, GNL_PORT_BIDIR & port, bool with_index)
 {
-    out << port.get_source_name(true);
+    text << port.get_source_name(true);
     if (port_place(port).among_slices())
-        write_slice_part(out, port, with_index);
+        write_slice_part(text, port, with_index);
     else if (GNL_ELEMENT::is_vhdl() && with_index && port.get_bus_width() == 1 && signal_of(port, nullptr).is_vector)
-        out << "(0)";
+        text << "(0)";
 }
 
 /// The bits of an own bidir that a subdesign's bidir drives.
 void write_driven_bits(std::ostream & out, GNL_PORT_OUTPUT_RANGE const & range)
 {
-    out << range.get_range_driver()->get_source_name(false);
+    text_sink text(out);
+    text << range.get_range_driver()->get_source_name(false);
     if (GNL_ELEMENT::is_verilog())
-        write_verilog_part(out, range.get_high_index(), range.get_low_index());
+        write_verilog_part(text, range.get_high_index(), range.get_low_index());
     else if (range.get_low_index() < range.get_high_index())
-        write_vhdl_part(out, range.get_high_index(), range.get_low_index());
+        write_vhdl_part(text, range.get_high_index(), range.get_low_index());
     else
-        out << "(" << range.get_high_index() << ")";
+        text << "(" << range.get_high_index() << ")";
 }
 
 } // namespace
@@ -52,19 +53,19 @@ void GNL_PORT_BIDIR::dump_port_description(std::ostream & out, GNL_GENERATOR * l
 
 void GNL_PORT_BIDIR::describe(description_writer & writer, GNL_GENERATOR * level, bool with_index, GNL_PORT *)
 {
-    std::ostream & out = writer.out();
+    text_sink & text = writer.sink();
     if (in_qhdl_style()) {
         if (get_parent() != level)
-            write_qhdl_prefix(out, *this);
-        out << get_source_name(false);
+            write_qhdl_prefix(text, *this);
+        text << get_source_name(false);
         if (get_width() != 0)
-            write_qhdl_range(out, shown_width(*this), with_index);
+            write_qhdl_range(text, shown_width(*this), with_index);
     } else if (get_parent() != level)
-        describe_signal(out, *this, with_index);
+        describe_signal(text, *this, with_index);
     else {
-        out << get_source_name(false);
+        text << get_source_name(false);
         if (is_vhdl() && with_index)
-            write_vhdl_range(out, get_width());
+            write_vhdl_range(text, get_width());
     }
 }
 

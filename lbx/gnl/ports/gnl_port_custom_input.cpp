@@ -29,7 +29,7 @@ public:
     {
     }
 
-    void write(std::ostream & out) const;
+    void write(text_sink & text) const;
     /// Whether the text is a vector of one element, which compares with a string literal.
     bool is_one_element_vector() const;
 
@@ -42,7 +42,7 @@ private:
     bool means_a_bit() const;
     /// The input, if the driver is assembled from pieces that leave bits to the input's default; else null.
     GNL_PORT * target_of_holes() const;
-    void write_slice_of(std::ostream & out, port_signal const & signal, int width) const;
+    void write_slice_of(text_sink & text, port_signal const & signal, int width) const;
 
     GNL_PORT_INPUT & m_input;
     GNL_GENERATOR * m_level;
@@ -99,35 +99,35 @@ GNL_PORT * custom_input::target_of_holes() const
     return covered < concat.get_bus_width() ? &m_input : nullptr;
 }
 
-void custom_input::write_slice_of(std::ostream & out, port_signal const & signal, int width) const
+void custom_input::write_slice_of(text_sink & text, port_signal const & signal, int width) const
 {
     int const slice_width = m_input.get_original_width() > 0 ? m_input.get_original_width() : 1;
     // An array that is wider than its driver reads it again from the first bit.
     int const low = signal.low_bit + slice_width * m_slice.index % width;
     int const high = low + slice_width - 1;
-    out << signal.name;
+    text << signal.name;
     if (GNL_ELEMENT::is_verilog())
-        write_verilog_part(out, high, low);
+        write_verilog_part(text, high, low);
     else if (slice_width > 1)
-        write_vhdl_part(out, high, low);
+        write_vhdl_part(text, high, low);
     else
-        out << "(" << low << ")";
+        text << "(" << low << ")";
 }
 
-void custom_input::write(std::ostream & out) const
+void custom_input::write(text_sink & text) const
 {
     bool const own_wire = shows_own_wire();
     int const width = own_wire ? m_input.get_width() : m_source.get_width();
     bool const by_slice = m_slice.single && width > 1 && (own_wire || m_source.is_simple_port());
     if (own_wire && by_slice)
-        write_slice_of(out, {m_input.get_source_name(true), 0, true}, width);
+        write_slice_of(text, {m_input.get_source_name(true), 0, true}, width);
     else if (own_wire)
-        out << m_input.get_source_name(true);
+        text << m_input.get_source_name(true);
     else if (by_slice)
-        write_slice_of(out, signal_of(m_source, m_level), width);
+        write_slice_of(text, signal_of(m_source, m_level), width);
     else {
         bool const with_index = GNL_ELEMENT::is_vhdl() && width == 1 && means_a_bit();
-        m_source.dump_port_description(out, m_level, with_index, target_of_holes());
+        m_source.dump_port_description(text.stream(), m_level, with_index, target_of_holes());
     }
 }
 
@@ -147,9 +147,10 @@ void GNL_PORT_INPUT::dump_custom_port_description(std::ostream & out, GNL_GENERA
 {
     if (in_qhdl_style() || !check_port_has_valid_driver())
         return;
-    if (m_driver)
-        custom_input(*this, level, {index, use_index && index >= 0}).write(out);
-    else if (GNL_PORT * const whole = port_place(*this).on_array(); whole && whole->is_input())
+    if (m_driver) {
+        text_sink text(out);
+        custom_input(*this, level, {index, use_index && index >= 0}).write(text);
+    } else if (GNL_PORT * const whole = port_place(*this).on_array(); whole && whole->is_input())
         static_cast<GNL_PORT_INPUT &>(*whole).dump_custom_port_description(out, level, port_place(*this).slice_index(),
                                                                            true);
 }

@@ -6,7 +6,7 @@ using namespace gnl_detail;
 namespace {
 
 /// The subscripts behind an input's name in QHDL; a two-dimensional input of a cell has one for each dimension.
-void write_qhdl_subscripts(std::ostream & out, GNL_PORT_INPUT & port, bool with_index)
+void write_qhdl_subscripts(text_sink & text, GNL_PORT_INPUT & port, bool with_index)
 {
     if (port.get_width() == 0)
         return;
@@ -14,9 +14,9 @@ void write_qhdl_subscripts(std::ostream & out, GNL_PORT_INPUT & port, bool with_
     bool const has_rows = port.get_2d_width() > 0 || port.get_2d_width_parameter_name();
     if (parent && parent->is_primitive() && has_rows) {
         bool const rows_known = with_index && port.get_2d_width() > 0;
-        write_qhdl_range(out, rows_known ? port.get_2d_width() : 1, rows_known);
+        write_qhdl_range(text, rows_known ? port.get_2d_width() : 1, rows_known);
     }
-    write_qhdl_range(out, shown_width(port), with_index);
+    write_qhdl_range(text, shown_width(port), with_index);
 }
 
 } // namespace
@@ -29,19 +29,19 @@ void GNL_PORT_INPUT::dump_port_description(std::ostream & out, GNL_GENERATOR * l
 
 void GNL_PORT_INPUT::describe(description_writer & writer, GNL_GENERATOR * level, bool with_index, GNL_PORT *)
 {
-    std::ostream & out = writer.out();
+    text_sink & text = writer.sink();
     if (get_parent() != level) {
         if (!is_verilog()) {
-            out << get_parent_instance_name();
-            write_instance_subscript(out, *this, true);
+            text << get_parent_instance_name();
+            write_instance_subscript(text, *this, true);
         }
-        out << ".";
+        text << ".";
     }
-    out << get_source_name(false);
+    text << get_source_name(false);
     if (is_vhdl() && with_index)
-        write_vhdl_range(out, get_width());
+        write_vhdl_range(text, get_width());
     else if (in_qhdl_style())
-        write_qhdl_subscripts(out, *this, with_index);
+        write_qhdl_subscripts(text, *this, with_index);
 }
 
 void GNL_PORT_INPUT::dump_port_description(std::ostream & out, GNL_GENERATOR * level, bool with_index, int high_slice)
@@ -51,9 +51,10 @@ void GNL_PORT_INPUT::dump_port_description(std::ostream & out, GNL_GENERATOR * l
         dump_port_description(out, level, with_index, nullptr);
         return;
     }
-    out << get_parent_instance_name();
+    text_sink text(out);
+    text << get_parent_instance_name();
     if (place.is_slice())
-        out << "[" << high_slice << ".." << place.slice_index() << "]";
-    out << "." << get_source_name(false);
-    write_qhdl_subscripts(out, *this, with_index);
+        text << "[" << high_slice << ".." << place.slice_index() << "]";
+    text << "." << get_source_name(false);
+    write_qhdl_subscripts(text, *this, with_index);
 }

@@ -66,15 +66,15 @@ void write_operand(description_writer & writer, GNL_PORT & x, GNL_PORT & y, GNL_
 }
 
 /// The index behind an expression that is a signal of its own.
-void write_signal_index(std::ostream & out, int width, bool with_index)
+void write_signal_index(text_sink & text, int width, bool with_index)
 {
     if (!GNL_ELEMENT::is_vhdl()) {
         if (with_index && width > 0)
-            out << "[" << width - 1 << "..0]";
+            text << "[" << width - 1 << "..0]";
     } else if (width == 0)
-        out << "(0)"; // also a scalar's signal is declared with one element
+        text << "(0)"; // also a scalar's signal is declared with one element
     else if (with_index)
-        write_vhdl_range(out, width);
+        write_vhdl_range(text, width);
 }
 
 } // namespace
@@ -88,8 +88,8 @@ void GNL_PORT_LOGIC::dump_port_description(std::ostream & out, GNL_GENERATOR * l
 void GNL_PORT_LOGIC::describe(description_writer & writer, GNL_GENERATOR * level, bool with_index, GNL_PORT * target)
 {
     if (need_to_create_vhdl_loop() || (get_parent() && get_parent()->generate_structural_netlist())) {
-        writer.out() << get_source_name(true);
-        write_signal_index(writer.out(), get_width(), with_index);
+        writer.sink() << get_source_name(true);
+        write_signal_index(writer.sink(), get_width(), with_index);
         return;
     }
     writer.text("(");

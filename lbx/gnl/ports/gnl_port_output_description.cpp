@@ -6,18 +6,18 @@ using namespace gnl_detail;
 namespace {
 
 /// An output of an instance, or a node of a cell that is written as statements.
-void write_qhdl_prefix(std::ostream & out, GNL_PORT_OUTPUT const & port)
+void write_qhdl_prefix(text_sink & text, GNL_PORT_OUTPUT const & port)
 {
     port_place const place(port);
-    out << port.get_parent_instance_name();
+    text << port.get_parent_instance_name();
     if (!place.has_output_signals_in_qhdl()) {
-        write_instance_subscript(out, port, true);
-        out << ".";
+        write_instance_subscript(text, port, true);
+        text << ".";
         return;
     }
-    out << "_";
+    text << "_";
     if (place.is_slice())
-        out << place.slice_index() << "_";
+        text << place.slice_index() << "_";
 }
 
 /// The width of the range behind an output's name in QHDL. An array of cells that are written as statements has one
@@ -32,46 +32,46 @@ int qhdl_width(GNL_PORT_OUTPUT & port)
     return port.get_original_width();
 }
 
-void describe_in_qhdl(std::ostream & out, GNL_PORT_OUTPUT & port, GNL_GENERATOR const * level, bool with_index)
+void describe_in_qhdl(text_sink & text, GNL_PORT_OUTPUT & port, GNL_GENERATOR const * level, bool with_index)
 {
     if (port.get_parent() != level)
-        write_qhdl_prefix(out, port);
-    out << port.get_source_name(false);
+        write_qhdl_prefix(text, port);
+    text << port.get_source_name(false);
     if (port.get_width() != 0)
-        write_qhdl_range(out, qhdl_width(port), with_index);
+        write_qhdl_range(text, qhdl_width(port), with_index);
 }
 
 /// The index behind the signal of an output in VHDL. A scalar of which a range was taken is declared with one element,
 /// and whoever names the scalar means that bit.
-void write_vhdl_index(std::ostream & out, GNL_PORT_OUTPUT & port, bool with_index)
+void write_vhdl_index(text_sink & text, GNL_PORT_OUTPUT & port, bool with_index)
 {
     bool const is_vector = signal_of(port, nullptr).is_vector;
     if (is_vector && (with_index || port.get_width() == 0))
-        write_vhdl_range(out, port.get_bus_width());
+        write_vhdl_range(text, port.get_bus_width());
 }
 
 /// An output of a subdesign, which is a signal of the design around it.
-void describe_signal(std::ostream & out, GNL_PORT_OUTPUT & port, bool with_index)
+void describe_signal(text_sink & text, GNL_PORT_OUTPUT & port, bool with_index)
 {
-    out << port.get_source_name(true);
+    text << port.get_source_name(true);
     if (port_place(port).among_slices())
-        write_slice_part(out, port, with_index);
+        write_slice_part(text, port, with_index);
     else if (GNL_ELEMENT::is_vhdl())
-        write_vhdl_index(out, port, with_index);
+        write_vhdl_index(text, port, with_index);
 }
 
 /// Slice `slice` of `width` bits each, by the rules of a cell's own text. `is_vector` says whether a single bit is
 /// reached by an index.
-void write_custom_part(std::ostream & out, int width, int slice, bool is_vector)
+void write_custom_part(text_sink & text, int width, int slice, bool is_vector)
 {
     int const low = width * slice;
     int const high = low + width - 1;
     if (GNL_ELEMENT::is_verilog())
-        write_verilog_part(out, high, low);
+        write_verilog_part(text, high, low);
     else if (width > 1)
-        write_vhdl_part(out, high, low);
+        write_vhdl_part(text, high, low);
     else if (is_vector)
-        out << "(" << slice << ")";
+        text << "(" << slice << ")";
 }
 
 } // namespace
@@ -84,15 +84,15 @@ void GNL_PORT_OUTPUT::dump_port_description(std::ostream & out, GNL_GENERATOR * 
 
 void GNL_PORT_OUTPUT::describe(description_writer & writer, GNL_GENERATOR * level, bool with_index, GNL_PORT *)
 {
-    std::ostream & out = writer.out();
+    text_sink & text = writer.sink();
     if (in_qhdl_style())
-        describe_in_qhdl(out, *this, level, with_index);
+        describe_in_qhdl(text, *this, level, with_index);
     else if (get_parent() != level)
-        describe_signal(out, *this, with_index);
+        describe_signal(text, *this, with_index);
     else {
-        out << get_source_name(false);
+        text << get_source_name(false);
         if (is_vhdl() && with_index)
-            write_vhdl_range(out, get_width());
+            write_vhdl_range(text, get_width());
     }
 }
 
@@ -100,11 +100,12 @@ void GNL_PORT_OUTPUT::dump_custom_port_description(std::ostream & out, GNL_GENER
 {
     if (in_qhdl_style())
         return;
-    out << get_source_name(true);
+    text_sink text(out);
+    text << get_source_name(true);
     port_place const place(*this);
     int const width = m_original_width > 0 ? m_original_width : 1;
     if (use_index && index >= 0)
-        write_custom_part(out, width, index, m_original_width > 0 || place.slices() > 1 || m_vhdl_array_wire);
+        write_custom_part(text, width, index, m_original_width > 0 || place.slices() > 1 || m_vhdl_array_wire);
     else if (place.connected_as_whole())
-        write_custom_part(out, width, place.slice_index(), true);
+        write_custom_part(text, width, place.slice_index(), true);
 }

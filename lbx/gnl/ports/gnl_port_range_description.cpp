@@ -70,18 +70,29 @@ void write_vhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const *
     text << ")";
 }
 
+/// Nodes stand beside an instance; each slice has its own.
+void write_node_prefix(text_sink & text, port_place const & place, bool of_bidir)
+{
+    if (!of_bidir)
+        text << "_";
+    if (place.is_slice())
+        text << place.slice_index() << "_";
+    else if (of_bidir)
+        text << "_";
+}
+
 /// How QHDL reaches a port of a subdesign: its instance and the slices that the bits lie in.
 void write_instance(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)
 {
     GNL_PORT & port = *bits.range->get_range_driver();
     bool const driven_here =
         port.is_bidir() && port.get_connection_level() == level && (port.get_driver() || port.is_driven_by_constant());
+    port_place const place(*bits.range);
     text << port.get_parent_instance_name();
     if (driven_here || port_place(port).has_output_signals_in_qhdl()) {
-        text << "_";
+        write_node_prefix(text, place, driven_here);
         return;
     }
-    port_place const place(*bits.range);
     if (place.is_slice())
         text << "[" << place.slice_index() << "]";
     else if (int const width = port.get_original_width(); place.slices() > 0 && width < 1)
@@ -107,11 +118,10 @@ void write_qhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const *
         text << "[" << bits.high % width << ".." << bits.low % width << "]";
 }
 
-void write_bits(std::ostream & out, shown_bits const & bits, GNL_GENERATOR const * level, GNL_PORT const * target)
+void write_bits(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level, GNL_PORT const * target)
 {
     if (!bits.range->get_range_driver())
         return;
-    text_sink text(out);
     if (GNL_ELEMENT::is_verilog())
         write_verilog(text, bits, level);
     else if (GNL_ELEMENT::is_vhdl())
@@ -125,16 +135,18 @@ void write_bits(std::ostream & out, shown_bits const & bits, GNL_GENERATOR const
 void GNL_PORT_OUTPUT_RANGE::describe(gnl_detail::description_writer & writer, GNL_GENERATOR * level, bool,
                                      GNL_PORT * target)
 {
-    write_bits(writer.out(), bits_of(*this, -1, -1), level, target);
+    write_bits(writer.sink(), bits_of(*this, -1, -1), level, target);
 }
 
 void GNL_PORT_OUTPUT_RANGE::dump_port_description(std::ostream & out, GNL_GENERATOR * level, bool, GNL_PORT * target)
 {
-    write_bits(out, bits_of(*this, -1, -1), level, target);
+    text_sink text(out);
+    write_bits(text, bits_of(*this, -1, -1), level, target);
 }
 
 void GNL_PORT_OUTPUT_RANGE::dump_port_description(std::ostream & out, GNL_GENERATOR * level, bool, GNL_PORT * target,
                                                   int first, int second)
 {
-    write_bits(out, bits_of(*this, first, second), level, target);
+    text_sink text(out);
+    write_bits(text, bits_of(*this, first, second), level, target);
 }

@@ -31,25 +31,25 @@ bool port_place::has_output_signals_in_qhdl() const
     return m_parent && m_parent->uses_custom_subdesign_insert_mode() && m_parent->uses_custom_qhdl_output();
 }
 
-void write_instance_subscript(std::ostream & out, GNL_PORT const & port, bool range_if_uneven)
+void write_instance_subscript(text_sink & text, GNL_PORT const & port, bool range_if_uneven)
 {
     port_place const place(port);
     if (place.slices() >= 1 && range_if_uneven && place.in_heterogeneous_array())
-        out << "[" << place.slices() - 1 << "..0]";
+        text << "[" << place.slices() - 1 << "..0]";
     else if (place.slices() >= 1)
-        out << "[]";
+        text << "[]";
     else if (place.is_slice())
-        out << "[" << place.slice_index() << "]";
+        text << "[" << place.slice_index() << "]";
 }
 
-void write_qhdl_range(std::ostream & out, int width, bool with_index)
+void write_qhdl_range(text_sink & text, int width, bool with_index)
 {
     if (width < 1)
         return;
     if (with_index)
-        out << "[" << width - 1 << "..0]";
+        text << "[" << width - 1 << "..0]";
     else
-        out << "[]";
+        text << "[]";
 }
 
 int shown_width(GNL_PORT & port)
@@ -57,22 +57,22 @@ int shown_width(GNL_PORT & port)
     return port_place(port).slices() >= 1 ? port.get_original_width() : port.get_width();
 }
 
-void write_vhdl_range(std::ostream & out, int width)
+void write_vhdl_range(text_sink & text, int width)
 {
     if (width > 1)
-        write_vhdl_part(out, width - 1, 0);
+        write_vhdl_part(text, width - 1, 0);
     else if (width == 1)
-        out << "(0)";
+        text << "(0)";
 }
 
-void write_verilog_part(std::ostream & out, int high, int low)
+void write_verilog_part(text_sink & text, int high, int low)
 {
-    out << "[" << high << ":" << low << "]";
+    text << "[" << high << ":" << low << "]";
 }
 
-void write_vhdl_part(std::ostream & out, int high, int low)
+void write_vhdl_part(text_sink & text, int high, int low)
 {
-    out << "(" << high << " DOWNTO " << low << ")";
+    text << "(" << high << " DOWNTO " << low << ")";
 }
 
 port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level)
@@ -90,18 +90,18 @@ port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level)
     return signal;
 }
 
-void write_slice_part(std::ostream & out, GNL_PORT & port, bool with_index)
+void write_slice_part(text_sink & text, GNL_PORT & port, bool with_index)
 {
     port_place const place(port);
     int const width = port.get_bus_width();
     bool const of_array = place.connected_as_whole();
     int const low = of_array ? width * place.slice_index() : 0;
     if (GNL_ELEMENT::is_verilog())
-        write_verilog_part(out, low + width - 1, low);
+        write_verilog_part(text, low + width - 1, low);
     else if (width > 1)
-        write_vhdl_part(out, low + width - 1, low);
+        write_vhdl_part(text, low + width - 1, low);
     else if (of_array || (with_index && signal_of(port, nullptr).is_vector))
-        out << "(" << low << ")";
+        text << "(" << low << ")";
 }
 
 } // namespace gnl_detail

@@ -2,7 +2,8 @@
 
 #include "gnl_generator.h"
 
-#include <ostream>
+#include "lbx/gnl/writers/text_sink.h"
+
 #include <string>
 
 namespace gnl_detail {
@@ -43,22 +44,22 @@ private:
 
 /// The subscript of an instance in QHDL: "[]" for a whole array, its range where slices differ and `range_if_uneven`
 /// asks for it, the index of a slice.
-void write_instance_subscript(std::ostream & out, GNL_PORT const & port, bool range_if_uneven);
+void write_instance_subscript(text_sink & text, GNL_PORT const & port, bool range_if_uneven);
 
 /// "[", `width` - 1, "..0]", or "[]" without `with_index`; nothing for a width below 1.
-void write_qhdl_range(std::ostream & out, int width, bool with_index);
+void write_qhdl_range(text_sink & text, int width, bool with_index);
 
 /// The width that a QHDL reference shows: of one slice in an array.
 int shown_width(GNL_PORT & port);
 
 /// "(", `width` - 1, " DOWNTO 0)", "(0)" for one bit, nothing for a scalar.
-void write_vhdl_range(std::ostream & out, int width);
+void write_vhdl_range(text_sink & text, int width);
 
 /// "[", `high`, ":", `low`, "]".
-void write_verilog_part(std::ostream & out, int high, int low);
+void write_verilog_part(text_sink & text, int high, int low);
 
 /// "(", `high`, " DOWNTO ", `low`, ")".
-void write_vhdl_part(std::ostream & out, int high, int low);
+void write_vhdl_part(text_sink & text, int high, int low);
 
 /// The signal of a declared pin or wire as Verilog and VHDL know it, apart from any index, and the bit of it with which
 /// the port begins: a slice of an array that is connected as a whole is a part of the array's signal.
@@ -74,6 +75,6 @@ port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level);
 
 /// What follows the signal of a slice's port in Verilog and VHDL: its part of the whole array's signal, or the range of
 /// its own one. In VHDL `with_index` asks for the index of a single bit.
-void write_slice_part(std::ostream & out, GNL_PORT & port, bool with_index);
+void write_slice_part(text_sink & text, GNL_PORT & port, bool with_index);
 
 } // namespace gnl_detail
