@@ -96,7 +96,8 @@ public:
     void set_as_parameterized();
     bool is_parameterized() const { return m_parameterized; }
 
-    /// The handle to an exposed parameter. It stays the library's until it is assigned to a parameter.
+    /// A handle to an exposed parameter, and the mark that it is used. The library keeps the handle as long as the
+    /// design lives. What is added to it after it was assigned shows where it was assigned.
     GNL_PARAMETER_EXPR & get_parameter();
     GNL_PARAMETER_EXPR * get_expr() const { return m_expr; }
     bool uses_expr_assignment() const { return m_expr != nullptr; }

@@ -31,8 +31,8 @@ namespace gnl_detail {
     X(no_value, \
       "Parameter {0} has no default value and has not been assigned any value.", \
       "An attempt was made to access the value of a parameter which has no default, and has not been assigned a " \
-      "value. All parameters should have a default value, or, if the parameter is a required parameter, an assignment " \
-      "should be made.", \
+      "value. All parameters should have a default value, or, if the parameter is a required parameter, an " \
+      "assignment should be made.", \
       "Specify a value for the parameter or if the parameter is an optional parameter, specify a default value.") \
     X(no_inherited_value, \
       "Parameter {0} is inherit only and no assignment has been made to the parameter at the top level.", \
