@@ -19,9 +19,15 @@ constexpr char const * already = "The port range was already assigned a value. T
 class ConcatPieces : public in_folder
 {
 protected:
+    void SetUp() override
+    {
+        in_folder::SetUp();
+        top.set_gen_language(GNL_VERILOG);
+    }
+
     open_design top{GNL_VERILOG};
-    GNL_PORT_INPUT & a = top.fed_input("a", 8);
-    GNL_PORT_INPUT & b = top.fed_input("b", 2);
+    GNL_PORT_INPUT & a = top.input("a", 8);
+    GNL_PORT_INPUT & b = top.input("b", 2);
     GNL_PORT_OUTPUT & y = top.output("y", 16);
     GNL_PORT_CONCAT & pieces = *new GNL_PORT_CONCAT(&top, 16);
 };
@@ -108,7 +114,7 @@ TEST_F(ConcatPieces, RangesThatDoNotTouchBothHereAndThereStayApart)
     pieces.add_at_index(a.range(7, 6), 11, 10, &y);
     pieces.add_at_index(a.range(5, 5), 8, 8, &y);
     pieces.add_at_index(a.range(3, 3), 9, 9, &y);
-    pieces.add_at_index(top.fed_input("c", 8).range(4, 4), 7, 7, &y);
+    pieces.add_at_index(top.input("c", 8).range(4, 4), 7, 7, &y);
     EXPECT_EQ(layout(pieces), "a[7:6]@11:10 a[3:3]@9:9 a[5:5]@8:8 c[4:4]@7:7");
 }
 
@@ -121,7 +127,7 @@ TEST_F(ConcatPieces, ARangeThatIsRepeatedStaysApart)
 
 TEST_F(ConcatPieces, AreCompleteWhenOneElementCoversThemAll)
 {
-    auto & whole = top.fed_input("whole", 16);
+    auto & whole = top.input("whole", 16);
     auto & narrow = *new GNL_PORT_CONCAT(&top, 16);
     narrow.add_at_index(b, 15, 0, &y);
     EXPECT_FALSE(narrow.is_complete()) << "a repetition";
@@ -157,7 +163,7 @@ TEST_F(ConcatPieces, ASingleBitOfAScalarOrOfARangeNeedsAnIndex)
         EXPECT_EQ(concat.get_elements_width(), port.get_original_width());
         return concat.need_index();
     };
-    auto & s = top.fed_input("s");
+    auto & s = top.input("s");
     EXPECT_TRUE(needs_index(s[0]));
     EXPECT_TRUE(needs_index(a.range(3, 2)[0]));
     EXPECT_FALSE(needs_index(a[0]));
@@ -223,7 +229,7 @@ TEST_F(ConcatPieces, EachBitHasItsSourceHoweverThePiecesWereJoined)
     std::mt19937 random(start);
     auto const below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
     constexpr int width = 64;
-    GNL_PORT * const sources[] = {&top.fed_input("p", width), &top.fed_input("q", width)};
+    GNL_PORT * const sources[] = {&top.input("p", width), &top.input("q", width)};
     for (int round = 0; round < 30; ++round) {
         auto & concat = *new GNL_PORT_CONCAT(&top, width);
         bit_map expected(width);
@@ -251,7 +257,7 @@ TEST_F(ConcatPieces, EachBitHasItsSourceHoweverThePiecesWereJoined)
 TEST_F(ConcatPieces, AWideOutputIsAssignedBitByBitInAnyOrder)
 {
     constexpr int width = 20000;
-    auto & i = top.fed_input("i", width);
+    auto & i = top.input("i", width);
     std::vector<int> order(width);
     std::iota(order.begin(), order.end(), 0);
     for (int round = 0; round < 2; ++round) {

@@ -23,10 +23,16 @@ constexpr char const * unconnected =
 class Concat : public in_folder
 {
 protected:
+    void SetUp() override
+    {
+        in_folder::SetUp();
+        top.set_gen_language(GNL_VERILOG);
+    }
+
     open_design top{GNL_VERILOG};
-    GNL_PORT_INPUT & a = top.fed_input("a", 4);
-    GNL_PORT_INPUT & b = top.fed_input("b", 2);
-    GNL_PORT_INPUT & s = top.fed_input("s");
+    GNL_PORT_INPUT & a = top.input("a", 4);
+    GNL_PORT_INPUT & b = top.input("b", 2);
+    GNL_PORT_INPUT & s = top.input("s");
 };
 
 TEST_F(Concat, HoldsTheLeftOperandAtTheHighEnd)
@@ -89,7 +95,7 @@ TEST_F(Concat, OfItselfHoldsItsElementsTwice)
 
 TEST_F(Concat, ListsTheNamesOfItsElements)
 {
-    EXPECT_EQ((a, s, a[0]).get_hierarchical_name(), "CONCAT (top|a , top|s , top|a|range--w_a_range1w , )");
+    EXPECT_EQ((a, s, a[0]).get_hierarchical_name(), "CONCAT (top|a , top|s , top|a|range--w_a_range2w , )");
 }
 
 // ---- Constants
@@ -139,7 +145,7 @@ TEST_F(Concat, RangesInTheOtherOrderOrOfOtherPortsStayTwo)
 {
     EXPECT_EQ(layout((a.range(1, 0), a.range(3, 2))), "a[1:0]@3:2 a[3:2]@1:0");
     EXPECT_EQ(layout((a.range(3, 3), a.range(1, 0))), "a[3:3]@2:2 a[1:0]@1:0");
-    auto & c = top.fed_input("c", 4);
+    auto & c = top.input("c", 4);
     EXPECT_EQ(layout((a.range(3, 2), c.range(1, 0))), "a[3:2]@3:2 c[1:0]@1:0");
 }
 
@@ -163,21 +169,30 @@ TEST_F(Concat, MarksItsOperandsAsUsed)
     auto & x = top.wire("x", 4);
     auto & part = x.range(1, 0);
     x.set_used(false);
-    auto & e = top.input("e", 4, 1);
-    (w, q, part, e, (w & q));
+    (w, q, part, (w & q));
     EXPECT_TRUE(w.check_is_used_flag());
     EXPECT_TRUE(q.check_is_used_flag());
     EXPECT_TRUE(x.check_is_used_flag());
     EXPECT_FALSE(part.check_is_used_flag());
+    EXPECT_EQ(top.messages(), texts{});
+}
+
+TEST_F(Concat, AnUnconnectedInputWithADefaultBecomesAConstant)
+{
+    open_design other(GNL_VERILOG, "", false);
+    auto & e = other.design::input("e", 4, 1);
+    auto & fed = other.input("fed", 4, 1);
+    other.set_in_rtl_body();
+    (e, fed);
     EXPECT_TRUE(e.is_a_constant_wire());
     EXPECT_FALSE(e.check_is_used_flag());
-    EXPECT_FALSE(a.is_a_constant_wire());
-    EXPECT_EQ(top.messages(), texts{});
+    EXPECT_FALSE(fed.is_a_constant_wire());
+    EXPECT_EQ(other.messages(), texts{});
 }
 
 TEST_F(Concat, AnUnconnectedInputIsReported)
 {
-    auto & late = top.input("late", 2);
+    auto & late = top.design::input("late", 2);
     (late, a);
     (a, late);
     auto & both = (a, b);
@@ -249,8 +264,8 @@ TEST_F(Concat, OfPortsWithoutAParentWorks)
 TEST_F(Concat, AnExpressionInItNeedsALoopInVhdl)
 {
     open_design vhdl(GNL_VHDL);
-    auto & c = vhdl.fed_input("c", 2);
-    auto & d = vhdl.fed_input("d", 2);
+    auto & c = vhdl.input("c", 2);
+    auto & d = vhdl.input("d", 2);
     auto & first = c & d;
     auto & second = c | d;
     auto & third = c ^ d;

@@ -30,14 +30,6 @@ public:
         return made;
     }
 
-    /// An input that counts as connected, as those of a top design do when its generation has begun.
-    GNL_PORT_INPUT & fed_input(std::string const & name, int width = 0)
-    {
-        auto & port = input(name, width);
-        port.set_used();
-        return port;
-    }
-
     /// An array of cells with the instance name "arr".
     design & array(int slices, std::function<void(design &)> declare)
     {

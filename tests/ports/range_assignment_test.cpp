@@ -22,15 +22,21 @@ constexpr char const * bad_constant =
 class RangeAssignment : public in_folder
 {
 protected:
+    void SetUp() override
+    {
+        in_folder::SetUp();
+        top.set_gen_language(GNL_VERILOG);
+    }
+
     open_design top{GNL_VERILOG};
 };
 
 TEST_F(RangeAssignment, PlacesThePortAtTheBitsOfItsTarget)
 {
-    auto & a = top.fed_input("a", 8);
+    auto & a = top.input("a", 8);
     auto & y = top.output("y", 8);
     y.range(3, 0) = a.range(7, 4);
-    y.range(7, 4) = top.fed_input("b", 4);
+    y.range(7, 4) = top.input("b", 4);
     EXPECT_EQ(driver_layout(y), "b@7:4 a[7:4]@3:0");
     EXPECT_EQ(a.range(7, 4).get_connection_level(), &top);
     EXPECT_EQ(y.get_connection_level(), &top);
@@ -41,7 +47,7 @@ TEST_F(RangeAssignment, PlacesThePortAtTheBitsOfItsTarget)
 TEST_F(RangeAssignment, ANarrowPortIsRepeated)
 {
     auto & y = top.output("y", 8);
-    y.range(5, 0) = top.fed_input("b", 2);
+    y.range(5, 0) = top.input("b", 2);
     EXPECT_EQ(driver_layout(y), "b@5:4 b@3:2 b@1:0");
     EXPECT_EQ(y.get_driver()->get_connection_level(), &top);
     EXPECT_EQ(top.messages(), texts{});
@@ -50,7 +56,7 @@ TEST_F(RangeAssignment, ANarrowPortIsRepeated)
 TEST_F(RangeAssignment, ARangeOfARangeEndsInThePort)
 {
     auto & y = top.output("y", 8);
-    auto & b = top.fed_input("b", 2);
+    auto & b = top.input("b", 2);
     y.range(7, 4).range(2, 1) = b;
     y.range(3, 0).range(3, 2).range(1, 0) = b;
     y.range(3, 0).range(1, 0) = 2;
@@ -71,7 +77,7 @@ TEST_F(RangeAssignment, ARepetitionThroughARangeOfARangeNeedsALoopInVhdl)
     open_design vhdl(GNL_VHDL);
     auto & y = vhdl.output("y", 8);
     auto & z = vhdl.output("z", 8);
-    auto & b = vhdl.fed_input("b", 2);
+    auto & b = vhdl.input("b", 2);
     y.range(7, 4).range(3, 0) = b;
     z.range(7, 4) = b;
     EXPECT_TRUE(y.get_driver()->has_create_vhdl_loop());
@@ -83,7 +89,7 @@ TEST_F(RangeAssignment, ARepetitionThroughARangeOfARangeNeedsALoopInVhdl)
 TEST_F(RangeAssignment, OutsideOfTheBodyIsReported)
 {
     auto & part = top.output("y", 4).range(1, 0);
-    auto & b = top.fed_input("b", 2);
+    auto & b = top.input("b", 2);
     top.set_out_of_rtl_body();
     part = b;
     part = 2;
@@ -101,7 +107,7 @@ TEST_F(RangeAssignment, OutsideOfTheBodyIsReported)
 TEST_F(RangeAssignment, WidthsThatDoNotFitAreReportedAndConnectedAllTheSame)
 {
     auto & y = top.output("y", 8);
-    y.range(1, 0) = top.fed_input("b", 4);
+    y.range(1, 0) = top.input("b", 4);
     EXPECT_TRUE(y.get_driver() && y.get_driver()->is_concat_port());
     EXPECT_EQ(
         top.messages(),
@@ -116,8 +122,8 @@ TEST_F(RangeAssignment, WidthsThatDoNotFitAreReportedAndConnectedAllTheSame)
 
 TEST_F(RangeAssignment, ASourceIsNoSink)
 {
-    auto & b = top.fed_input("b", 2);
-    auto & a = top.fed_input("a", 4);
+    auto & b = top.input("b", 2);
+    auto & a = top.input("a", 4);
     auto & q = top.child("leaf", "u1").output("q", 4);
     a.range(1, 0) = b;
     a.range(3, 0).range(1, 0) = b;
@@ -181,7 +187,7 @@ TEST_F(RangeAssignment, AWideConstantIsNotChecked)
 TEST_F(RangeAssignment, OfBoundsInTheWrongOrderIsHarmless)
 {
     auto & y = top.output("y", 8);
-    y.range(1, 3) = top.fed_input("b", 2);
+    y.range(1, 3) = top.input("b", 2);
     y.range(1, 3) = 5;
     y.range(1, 3) = top.port("b").range(0, 1);
     y = top.port("b").range(1, 2);
@@ -191,7 +197,7 @@ TEST_F(RangeAssignment, OfBoundsInTheWrongOrderIsHarmless)
 TEST_F(RangeAssignment, ASubdesignsInputIsDrivenBitByBit)
 {
     auto & d = top.child("leaf", "u1").input("d", 4);
-    auto & b = top.fed_input("b", 2);
+    auto & b = top.input("b", 2);
     d.range(3, 2) = b;
     d[0] = 1;
     EXPECT_TRUE(d.check_is_used_flag());
@@ -202,7 +208,7 @@ TEST_F(RangeAssignment, ASubdesignsInputIsDrivenBitByBit)
 TEST_F(RangeAssignment, AnAssignmentAcrossSlicesGoesToTheirWire)
 {
     GNL_PORT & d = top.array(4, [](design & cell) { cell.input("d", 2); }).port("d");
-    d.range(2, 1) = top.fed_input("b", 2);
+    d.range(2, 1) = top.input("b", 2);
     ASSERT_NE(d.get_driver(), nullptr);
     EXPECT_EQ(driver_layout(*d.get_driver()), "b@2:1");
     EXPECT_EQ(top.messages(), texts{});
@@ -232,7 +238,7 @@ TEST_F(RangeAssignment, ABidirOfASubdesignDrivesARangeOfAnythingElseAsAnOutput)
 TEST_F(RangeAssignment, TheUseOfABidirIsCheckedAlsoAfterAnError)
 {
     auto & p = top.child("leaf", "u1").bidir("p", 2);
-    top.fed_input("a", 4).range(1, 0) = p;
+    top.input("a", 4).range(1, 0) = p;
     EXPECT_EQ(p.is_locked_bidir_port(), 1);
     EXPECT_EQ(top.messages().size(), 1U);
 }
@@ -240,7 +246,7 @@ TEST_F(RangeAssignment, TheUseOfABidirIsCheckedAlsoAfterAnError)
 TEST_F(RangeAssignment, WithoutAParentDoesNothing)
 {
     GNL_PORT free(nullptr, "free", 8);
-    free.range(1, 0) = top.fed_input("b", 2);
+    free.range(1, 0) = top.input("b", 2);
     free.range(1, 0) = 1;
     MLIB_UINTEGER one(1u, 1);
     free.range(1, 0) = one;

@@ -61,7 +61,7 @@ TEST_F(RangeDescription, OfADrivenBidirOfASubdesignIsThatOfItsNode)
 {
     expect_language_texts({"wire_u1_p[3:1]", "wire_u1_p(3 DOWNTO 1)", "u1_p[3..1]"}, [](open_design & top) {
         auto & p = top.child("leaf", "u1").bidir("p", 8);
-        p = top.fed_input("a", 8);
+        p = top.input("a", 8);
         return described(p.range(3, 1), top);
     });
     expect_language_texts({"wire_u1_p[3:1]", "wire_u1_p(3 DOWNTO 1)", "u1_p[3..1]"}, [](open_design & top) {
@@ -69,6 +69,23 @@ TEST_F(RangeDescription, OfADrivenBidirOfASubdesignIsThatOfItsNode)
         p = 5;
         return described(p.range(3, 1), top);
     });
+}
+
+TEST_F(RangeDescription, OfANodeOfASlice)
+{
+    open_design top(GNL_QHDL);
+    auto & cells = top.array(4, [](design & cell) {
+        cell.bidir("p", 2);
+        cell.output("q", 2);
+    });
+    auto & p = cells[3].port("p");
+    p = 1;
+    EXPECT_EQ(described(p[1], top), "arr3_p[1..1]");
+    EXPECT_EQ(described(p, top), "arr3_p[]");
+    cells[3].set_custom_subdesign_insert_mode();
+    cells[3].set_use_custom_qhdl_output();
+    EXPECT_EQ(described(cells[3].port("q")[1], top), "arr_3_q[1..1]");
+    EXPECT_EQ(described(cells[3].port("q"), top), "arr_3_q[]");
 }
 
 TEST_F(RangeDescription, OfAnOutputOfACellThatQhdlWritesAsStatements)
@@ -170,7 +187,7 @@ TEST_F(RangeDescription, ATargetOfOneBitTakesABitInVhdl)
 TEST_F(RangeDescription, ThroughAWireShowsTheWire)
 {
     expect_language_texts({"w3w[5:2]", "w3w(5 DOWNTO 2)", "w3w[5..2]"}, [](open_design & top) {
-        GNL_PORT & both = (top.fed_input("a", 8), top.fed_input("b", 8));
+        GNL_PORT & both = (top.input("a", 8), top.input("b", 8));
         top.generate_wire_name("", "");
         return described(both.range(5, 2), top);
     });

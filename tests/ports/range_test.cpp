@@ -21,6 +21,12 @@ constexpr char const * cut_slices =
 class Range : public in_folder
 {
 protected:
+    void SetUp() override
+    {
+        in_folder::SetUp();
+        top.set_gen_language(GNL_VERILOG);
+    }
+
     open_design top{GNL_VERILOG};
 };
 
@@ -93,7 +99,7 @@ TEST_F(Range, TheKeyOutsideOfAllBodiesHasNoLevel)
 
 TEST_F(Range, TheKeyOfAnExpressionsRangeIsThatOfTheExpression)
 {
-    auto & both = top.fed_input("a", 8) & top.fed_input("b", 8);
+    auto & both = top.input("a", 8) & top.input("b", 8);
     EXPECT_EQ(both.range(5, 2).generate_key(),
               GNL_PORT_OUTPUT_RANGE::generate_key_base(both.generate_key() + ";GNRTR;top;;GNRTR;top;", 5, 2));
 }
@@ -193,7 +199,7 @@ TEST_F(Range, TakingOneMarksAllButInputsAsUsed)
 
 TEST_F(Range, OfAnExpressionIsTakenFromAWire)
 {
-    auto & both = top.fed_input("a", 8) & top.fed_input("b", 8);
+    auto & both = top.input("a", 8) & top.input("b", 8);
     auto & part = both.range(3, 0);
     GNL_PORT & wire = *part.get_range_driver();
     EXPECT_TRUE(wire.is_wire());
@@ -211,7 +217,7 @@ TEST_F(Range, OfAnExpressionIsTakenFromAWire)
 
 TEST_F(Range, OfAnExpressionIsFoundAgain)
 {
-    auto & both = top.fed_input("a", 8) & top.fed_input("b", 8);
+    auto & both = top.input("a", 8) & top.input("b", 8);
     auto & part = both.range(3, 0);
     EXPECT_EQ(&both.range(3, 0), &part);
     EXPECT_EQ(part.get_range_driver()->get_driver_count(), 2);
@@ -220,7 +226,7 @@ TEST_F(Range, OfAnExpressionIsFoundAgain)
 
 TEST_F(Range, OfAConcatenationIsTakenFromAWire)
 {
-    auto & both = (top.fed_input("a", 4), top.fed_input("b", 4));
+    auto & both = (top.input("a", 4), top.input("b", 4));
     auto & part = both.range(5, 2);
     ASSERT_NE(part.get_range_driver(), nullptr);
     EXPECT_TRUE(part.get_range_driver()->is_wire());
@@ -236,6 +242,14 @@ TEST_F(Range, OfAnExpressionOutsideOfTheBodyIsStillARange)
     ASSERT_NE(part.get_range_driver(), nullptr);
     EXPECT_EQ(part.get_range_driver()->get_parent(), &idle);
     EXPECT_EQ(part.get_width(), 4);
+    constexpr char const * cause = "An attempt has been made to make port connections outside of the rtl_body.";
+    constexpr char const * action = "Make port connections inside rtl_body only.";
+    EXPECT_EQ(idle.messages(),
+              (texts{error("Logical operation AND between idle|a and idle|b is being done outside of rtl_body.", cause,
+                           action),
+                     error("Range object idle|" + part.get_range_driver()->get_name() + " is being assigned "
+                               + both.get_hierarchical_name() + " outside of rtl_body.",
+                           cause, action)}));
 }
 
 TEST_F(Range, OfWholeSlicesIsDirect)
@@ -279,14 +293,14 @@ TEST_F(Range, AcrossSlicesOfADrivenInputHasNothingToSelectFrom)
 {
     auto & cells = top.array(4, [](design & cell) { cell.input("d", 2); });
     GNL_PORT & d = cells.port("d");
-    d = top.fed_input("x", 8);
+    d = top.input("x", 8);
     auto & failed = d.range(2, 1);
     EXPECT_EQ(failed.get_range_driver(), nullptr);
     EXPECT_EQ(failed.get_name(), "");
     EXPECT_EQ(failed.get_width(), 0);
     EXPECT_EQ(&d.range(2, 1), &failed);
     EXPECT_EQ(top.messages(),
-              (texts{error("Range operation is being performed on top|cell inst arr array|d but the range operation is "
+              (texts{error("Range operation is being performed on top|cell inst arr|d but the range operation is "
                            "illegal, as either the indices are illegal or the parent of the port is a heterogeneous "
                            "array.",
                            cut_slices)}));
@@ -296,12 +310,12 @@ TEST_F(Range, WithoutADriverDoesNothingAndHarmsNothing)
 {
     auto & cells = top.array(4, [](design & cell) { cell.input("d", 2); });
     GNL_PORT & d = cells.port("d");
-    d = top.fed_input("x", 8);
+    d = top.input("x", 8);
     auto & failed = d.range(2, 1);
     auto const posted = top.messages();
     EXPECT_TRUE(failed.check_range_driver_validity(&top));
     failed.set_range_port_used();
-    failed = top.fed_input("b", 2);
+    failed = top.input("b", 2);
     failed = 1;
     MLIB_UINTEGER one(1u, 1);
     failed = one;
@@ -374,19 +388,18 @@ TEST_F(Range, ReadingItUsesItsPort)
 
 TEST_F(Range, ReadingAnUnconnectedInputIsReportedOrTakesItsDefault)
 {
-    auto & late = top.input("late", 4);
-    auto & e = top.input("e", 4, 1);
-    auto & fed = top.input("fed", 4);
-    late.set_used(false);
-    e.set_used(false);
-    fed.set_used();
-    late.range(1, 0).range(0, 0).set_range_port_used();
-    e.range(1, 0).set_range_port_used();
-    fed.range(1, 0).set_range_port_used();
+    open_design other(GNL_VERILOG, "", false);
+    auto & late = other.design::input("late", 4);
+    auto & e = other.design::input("e", 4, 1);
+    auto & fed = other.input("fed", 4, 1);
+    other.set_in_rtl_body();
+    auto & part = late.range(1, 0).range(0, 0);
+    for (GNL_PORT_OUTPUT_RANGE * read : {&part, &e.range(1, 0), &fed.range(1, 0)})
+        read->set_range_port_used();
     EXPECT_FALSE(late.is_a_constant_wire());
     EXPECT_TRUE(e.is_a_constant_wire());
     EXPECT_FALSE(fed.is_a_constant_wire());
-    EXPECT_EQ(top.messages(),
+    EXPECT_EQ(other.messages(),
               (texts{error("Range object top|late|range--w_late_range1w of input port top|late is being used, but the "
                            "input port is not connected and has no default.",
                            "An attempt was made to use an unconnected input port. The input port should either be "
@@ -417,7 +430,7 @@ TEST_F(Range, OfAPortWithoutAParentWorks)
 TEST_F(Range, AHundredThousandRangesDeep)
 {
     constexpr int depth = 100000;
-    auto & a = top.fed_input("a", 8);
+    auto & a = top.input("a", 8);
     auto & y = top.output("y", 8);
     GNL_PORT * part = &a;
     GNL_PORT * sink = &y;

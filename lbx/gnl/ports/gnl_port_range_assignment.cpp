@@ -13,7 +13,8 @@ using gnl_detail::source_text;
 
 namespace {
 
-/// The port that an assignment to a range ends in, and its bits there.
+/// The port that an assignment to a range ends in, and its bits there. There is none behind a range that could not be
+/// made, which has been reported then.
 struct range_target
 {
     GNL_PORT * port;
@@ -41,13 +42,13 @@ template <class CONSTANT> void assign_constant(GNL_PORT_OUTPUT_RANGE & range, CO
     GNL_GENERATOR const & parent = *range.get_parent();
     GNL_GENERATOR * const level = range.get_connection_level();
     std::string const name = range.get_hierarchical_name();
+    range_target const target = target_of(range);
+    if (!target.port)
+        return;
     if (!level)
         return report<port_message::range_constant_outside_body>(parent, name, source_text(value));
     if (!constant_fits(range, value))
         return report<port_message::range_constant_too_wide>(parent, name, range.get_bus_width(), source_text(value));
-    range_target const target = target_of(range);
-    if (!target.port)
-        return;
     if (!target.port->check_lhs(level))
         return report<port_message::range_no_sink_for_constant>(parent, name, source_text(value),
                                                                 level->get_hierarchical_name());
@@ -58,6 +59,9 @@ void assign_port(GNL_PORT_OUTPUT_RANGE & range, GNL_PORT & rhs)
 {
     GNL_GENERATOR const & parent = *range.get_parent();
     GNL_GENERATOR * const level = range.get_connection_level();
+    range_target const target = target_of(range);
+    if (!target.port)
+        return;
     if (!level)
         return report<port_message::assigned_outside_body>(parent, range.get_hierarchical_name(),
                                                            rhs.get_hierarchical_name());
@@ -69,9 +73,6 @@ void assign_port(GNL_PORT_OUTPUT_RANGE & range, GNL_PORT & rhs)
         rhs.set_connection_level(level);
         rhs.set_range_port_used();
     }
-    range_target const target = target_of(range);
-    if (!target.port)
-        return;
     if (!target.port->check_lhs(level))
         return report<port_message::range_no_sink>(parent, range.get_hierarchical_name(), rhs.get_hierarchical_name(),
                                                    level->get_hierarchical_name());
