@@ -166,6 +166,36 @@ TEST_F(Prune, ReleasesUnreadExpressionsBeforeWires)
     EXPECT_EQ(a.get_driver_count(), 1);
 }
 
+TEST_F(Prune, ReleasesExpressionsOfExpressionsInTheOrderOfKeys)
+{
+    pruned_design top;
+    auto & a = top.source("a");
+    auto & b = top.source("b");
+    auto & c = top.source("c");
+    !(a & b);
+    top.prune_optional_wires();
+    EXPECT_EQ(a.get_driver_count(), 2) << "AND comes before NOT, when it is still read";
+    auto & inverted = !c;
+    inverted & b;
+    top.prune_optional_wires();
+    EXPECT_EQ(inverted.get_driver_count(), 0);
+    EXPECT_EQ(c.get_driver_count(), 1) << "NOT comes after the AND that has read it";
+}
+
+TEST_F(Prune, ReleasesRangesOfRangesInTheOrderOfKeys)
+{
+    pruned_design top;
+    auto & a = top.source("a", 8);
+    auto & b = top.source("b", 8);
+    auto & part = a.range(7, 4);
+    part.range(1, 0);
+    b.range(7, 4);
+    top.prune_optional_wires();
+    EXPECT_EQ(part.get_driver_count(), 0);
+    EXPECT_EQ(a.get_driver_count(), 2) << "the range of a port comes before that of a range";
+    EXPECT_EQ(b.get_driver_count(), 1);
+}
+
 // ---- Chains of automatically named wires
 
 TEST_F(Prune, ReadsTheSourceThroughTwoWires)

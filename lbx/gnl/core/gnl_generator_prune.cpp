@@ -195,23 +195,37 @@ private:
     {
         bool const may_remove = design.allow_removal_of_optional_wires();
         auto & registry = design.registry();
-        if (may_remove && has_unread(registry.unordered_logic_ports()))
-            for (GNL_PORT_LOGIC & logic : registry.logic_ports())
-                release_sources(logic);
+        if (may_remove)
+            release_unread(registry.unordered_logic_ports(), [&registry] { return registry.logic_ports(); });
         for (GNL_PORT & port : registry.ports())
             if ((!may_remove || !release_sources(port)) && port.is_simple_port())
                 bypass_driver(port);
-        if (may_remove && has_unread(registry.unordered_ranges()))
-            for (GNL_PORT_OUTPUT_RANGE & range : registry.ranges())
-                release_sources(range);
+        if (may_remove)
+            release_unread(registry.unordered_ranges(), [&registry] { return registry.ranges(); });
     }
 
-    /// Operators that are all read release nothing, and as long as none does, none becomes unread: then they need not
-    /// be visited in order at all.
-    template <class PORT> static bool has_unread(std::vector<PORT *> const & operators)
+    /// Operators of one kind. In which order they are released shows only where one that is unread was made of another:
+    /// that one may become unread too. Most designs have no such thing and are spared the sorting.
+    template <class OPERATOR, class WALK>
+    static void release_unread(std::vector<OPERATOR *> const & operators, WALK in_order)
     {
-        return std::any_of(operators.begin(), operators.end(),
-                           [](PORT const * one) { return !one->port_is_a_driver(); });
+        auto const shows_order = [](OPERATOR const * one) { return !one->port_is_a_driver() && is_nested(*one); };
+        if (std::any_of(operators.begin(), operators.end(), shows_order))
+            for (OPERATOR & one : in_order())
+                release_sources(one);
+        else
+            for (OPERATOR * one : operators)
+                release_sources(*one);
+    }
+
+    static bool is_nested(GNL_PORT_LOGIC const & logic)
+    {
+        auto const is_expression = [](GNL_PORT const * operand) { return operand && operand->is_logic(); };
+        return is_expression(logic.get_first_operand()) || is_expression(logic.get_second_operand());
+    }
+    static bool is_nested(GNL_PORT_OUTPUT_RANGE const & range)
+    {
+        return range.get_range_driver() && range.get_range_driver()->is_range_port();
     }
 
     /// Whether the bits of `wire` are the bits of `source`, which they aren't when the wire repeats a narrower source.
