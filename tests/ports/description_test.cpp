@@ -1,31 +1,10 @@
 // The reference to each kind of port: of the design itself, of a subdesign, of an array and of a slice.
 
-#include "open_design.h"
+#include "language_texts.h"
 
 using namespace gnl_test;
 
 namespace {
-
-struct expected_texts
-{
-    char const * verilog;
-    char const * vhdl;
-    char const * qhdl;
-};
-
-/// Runs `text` in each language; Tcl writes what QHDL writes.
-void expect_texts(expected_texts const & expected, std::function<std::string(open_design &)> const & text)
-{
-    std::pair<int, char const *> const rows[] = {{GNL_VERILOG, expected.verilog},
-                                                 {GNL_VHDL, expected.vhdl},
-                                                 {GNL_QHDL, expected.qhdl},
-                                                 {GNL_TCL, expected.qhdl}};
-    for (auto const & [language, wanted] : rows) {
-        open_design top(language);
-        EXPECT_EQ(text(top), wanted) << "language " << language;
-        EXPECT_EQ(top.messages(), texts{});
-    }
-}
 
 class PortDescription : public in_folder
 {
@@ -33,34 +12,36 @@ class PortDescription : public in_folder
 
 TEST_F(PortDescription, InputOfTheDesign)
 {
-    expect_texts({"a  a", "a  a(7 DOWNTO 0)", "a[]  a[7..0]"},
-                 [](open_design & top) { return both_forms(top.input("a", 8), top); });
-    expect_texts({"v  v", "v  v(0)", "v[]  v[0..0]"},
-                 [](open_design & top) { return both_forms(top.input("v", 1), top); });
-    expect_texts({"s  s", "s  s", "s  s"}, [](open_design & top) { return both_forms(top.input("s"), top); });
+    expect_language_texts({"a  a", "a  a(7 DOWNTO 0)", "a[]  a[7..0]"},
+                          [](open_design & top) { return both_forms(top.input("a", 8), top); });
+    expect_language_texts({"v  v", "v  v(0)", "v[]  v[0..0]"},
+                          [](open_design & top) { return both_forms(top.input("v", 1), top); });
+    expect_language_texts({"s  s", "s  s", "s  s"}, [](open_design & top) { return both_forms(top.input("s"), top); });
 }
 
 TEST_F(PortDescription, InputOfASubdesign)
 {
-    expect_texts({".a  .a", "u1.a  u1.a(7 DOWNTO 0)", "u1.a[]  u1.a[7..0]"},
-                 [](open_design & top) { return both_forms(top.child("leaf", "u1").input("a", 8), top); });
+    expect_language_texts({".a  .a", "u1.a  u1.a(7 DOWNTO 0)", "u1.a[]  u1.a[7..0]"},
+                          [](open_design & top) { return both_forms(top.child("leaf", "u1").input("a", 8), top); });
 }
 
 TEST_F(PortDescription, InputOfAnArrayShowsTheWidthOfASliceInQhdl)
 {
-    expect_texts({".a  .a", "arr[].a  arr[].a(31 DOWNTO 0)", "arr[].a[]  arr[].a[7..0]"}, [](open_design & top) {
-        return both_forms(top.array(4, [](design & cell) { cell.input("a", 8); }).port("a"), top);
-    });
-    expect_texts({".s  .s", "arr[].s  arr[].s(3 DOWNTO 0)", "arr[].s  arr[].s"}, [](open_design & top) {
+    expect_language_texts({".a  .a", "arr[].a  arr[].a(31 DOWNTO 0)", "arr[].a[]  arr[].a[7..0]"},
+                          [](open_design & top) {
+                              return both_forms(top.array(4, [](design & cell) { cell.input("a", 8); }).port("a"), top);
+                          });
+    expect_language_texts({".s  .s", "arr[].s  arr[].s(3 DOWNTO 0)", "arr[].s  arr[].s"}, [](open_design & top) {
         return both_forms(top.array(4, [](design & cell) { cell.input("s"); }).port("s"), top);
     });
 }
 
 TEST_F(PortDescription, InputOfASlice)
 {
-    expect_texts({".a  .a", "arr[2].a  arr[2].a(7 DOWNTO 0)", "arr[2].a[]  arr[2].a[7..0]"}, [](open_design & top) {
-        return both_forms(top.array(4, [](design & cell) { cell.input("a", 8); })[2].port("a"), top);
-    });
+    expect_language_texts(
+        {".a  .a", "arr[2].a  arr[2].a(7 DOWNTO 0)", "arr[2].a[]  arr[2].a[7..0]"}, [](open_design & top) {
+            return both_forms(top.array(4, [](design & cell) { cell.input("a", 8); })[2].port("a"), top);
+        });
 }
 
 TEST_F(PortDescription, InputsAndOutputsOfAnUnevenArrayShowTheRangeOfTheSlices)
@@ -113,36 +94,37 @@ TEST_F(PortDescription, InputUpToAHigherSlice)
 
 TEST_F(PortDescription, WireOfTheDesignAndOfASubdesign)
 {
-    expect_texts({"w  w", "w  w(3 DOWNTO 0)", "w[]  w[3..0]"},
-                 [](open_design & top) { return both_forms(top.wire("w", 4), top); });
-    expect_texts({".w  .w", "u1.w  u1.w(3 DOWNTO 0)", "u1.w[]  u1.w[3..0]"},
-                 [](open_design & top) { return both_forms(top.child("leaf", "u1").wire("w", 4), top); });
-    expect_texts({".w  .w", "arr[2].w  arr[2].w(3 DOWNTO 0)", "arr[2].w[]  arr[2].w[3..0]"}, [](open_design & top) {
-        return both_forms(top.array(4, [](design & cell) { cell.wire("w", 4); })[2].port("w"), top);
-    });
+    expect_language_texts({"w  w", "w  w(3 DOWNTO 0)", "w[]  w[3..0]"},
+                          [](open_design & top) { return both_forms(top.wire("w", 4), top); });
+    expect_language_texts({".w  .w", "u1.w  u1.w(3 DOWNTO 0)", "u1.w[]  u1.w[3..0]"},
+                          [](open_design & top) { return both_forms(top.child("leaf", "u1").wire("w", 4), top); });
+    expect_language_texts(
+        {".w  .w", "arr[2].w  arr[2].w(3 DOWNTO 0)", "arr[2].w[]  arr[2].w[3..0]"}, [](open_design & top) {
+            return both_forms(top.array(4, [](design & cell) { cell.wire("w", 4); })[2].port("w"), top);
+        });
 }
 
 TEST_F(PortDescription, OutputOfTheDesign)
 {
-    expect_texts({"q  q", "q  q(7 DOWNTO 0)", "q[]  q[7..0]"},
-                 [](open_design & top) { return both_forms(top.output("q", 8), top); });
-    expect_texts({"s  s", "s  s", "s  s"}, [](open_design & top) { return both_forms(top.output("s"), top); });
+    expect_language_texts({"q  q", "q  q(7 DOWNTO 0)", "q[]  q[7..0]"},
+                          [](open_design & top) { return both_forms(top.output("q", 8), top); });
+    expect_language_texts({"s  s", "s  s", "s  s"}, [](open_design & top) { return both_forms(top.output("s"), top); });
 }
 
 TEST_F(PortDescription, OutputOfASubdesignIsASignal)
 {
-    expect_texts({"wire_u1_q  wire_u1_q", "wire_u1_q  wire_u1_q(7 DOWNTO 0)", "u1.q[]  u1.q[7..0]"},
-                 [](open_design & top) { return both_forms(top.child("leaf", "u1").output("q", 8), top); });
-    expect_texts({"wire_u1_v  wire_u1_v", "wire_u1_v  wire_u1_v(0)", "u1.v[]  u1.v[0..0]"},
-                 [](open_design & top) { return both_forms(top.child("leaf", "u1").output("v", 1), top); });
-    expect_texts({"wire_u1_s  wire_u1_s", "wire_u1_s  wire_u1_s", "u1.s  u1.s"},
-                 [](open_design & top) { return both_forms(top.child("leaf", "u1").output("s"), top); });
+    expect_language_texts({"wire_u1_q  wire_u1_q", "wire_u1_q  wire_u1_q(7 DOWNTO 0)", "u1.q[]  u1.q[7..0]"},
+                          [](open_design & top) { return both_forms(top.child("leaf", "u1").output("q", 8), top); });
+    expect_language_texts({"wire_u1_v  wire_u1_v", "wire_u1_v  wire_u1_v(0)", "u1.v[]  u1.v[0..0]"},
+                          [](open_design & top) { return both_forms(top.child("leaf", "u1").output("v", 1), top); });
+    expect_language_texts({"wire_u1_s  wire_u1_s", "wire_u1_s  wire_u1_s", "u1.s  u1.s"},
+                          [](open_design & top) { return both_forms(top.child("leaf", "u1").output("s"), top); });
 }
 
 // Its signal is declared with one element.
 TEST_F(PortDescription, ScalarOutputOfWhichARangeWasTakenIsABitInVhdl)
 {
-    expect_texts({"wire_u1_s  wire_u1_s", "wire_u1_s(0)  wire_u1_s(0)", "u1.s  u1.s"}, [](open_design & top) {
+    expect_language_texts({"wire_u1_s  wire_u1_s", "wire_u1_s(0)  wire_u1_s(0)", "u1.s  u1.s"}, [](open_design & top) {
         auto & port = top.child("leaf", "u1").output("s");
         port.set_vhdl_array_wire();
         return both_forms(port, top);
@@ -152,21 +134,23 @@ TEST_F(PortDescription, ScalarOutputOfWhichARangeWasTakenIsABitInVhdl)
 TEST_F(PortDescription, OutputOfAnArrayOfOneSlice)
 {
     auto const scalar = [](design & cell) { cell.output("s"); };
-    expect_texts({"wire_arr_s  wire_arr_s", "wire_arr_s  wire_arr_s", "arr[].s  arr[].s"},
-                 [&](open_design & top) { return both_forms(top.array(1, scalar).port("s"), top); });
-    expect_texts({"wire_arr_s  wire_arr_s", "wire_arr_s  wire_arr_s(0)", "arr[].s  arr[].s"}, [&](open_design & top) {
-        auto & port = top.array(1, scalar).port("s");
-        port.set_vhdl_array_wire();
-        return both_forms(port, top);
-    });
+    expect_language_texts({"wire_arr_s  wire_arr_s", "wire_arr_s  wire_arr_s", "arr[].s  arr[].s"},
+                          [&](open_design & top) { return both_forms(top.array(1, scalar).port("s"), top); });
+    expect_language_texts({"wire_arr_s  wire_arr_s", "wire_arr_s  wire_arr_s(0)", "arr[].s  arr[].s"},
+                          [&](open_design & top) {
+                              auto & port = top.array(1, scalar).port("s");
+                              port.set_vhdl_array_wire();
+                              return both_forms(port, top);
+                          });
 }
 
 TEST_F(PortDescription, OutputOfAnArray)
 {
-    expect_texts({"wire_arr_q  wire_arr_q", "wire_arr_q  wire_arr_q(31 DOWNTO 0)", "arr[].q[]  arr[].q[7..0]"},
-                 [](open_design & top) {
-                     return both_forms(top.array(4, [](design & cell) { cell.output("q", 8); }).port("q"), top);
-                 });
+    expect_language_texts({"wire_arr_q  wire_arr_q", "wire_arr_q  wire_arr_q(31 DOWNTO 0)", "arr[].q[]  arr[].q[7..0]"},
+                          [](open_design & top) {
+                              return both_forms(top.array(4, [](design & cell) { cell.output("q", 8); }).port("q"),
+                                                top);
+                          });
 }
 
 TEST_F(PortDescription, OutputOfASliceIsAPartOfTheArraysSignal)
@@ -181,10 +165,10 @@ TEST_F(PortDescription, OutputOfASliceIsAPartOfTheArraysSignal)
         cells.port(name).set_used();
         return described(port, top);
     };
-    expect_texts({"wire_arr_q[23:16]", "wire_arr_q(23 DOWNTO 16)", "arr[2].q[]"},
-                 [&](open_design & top) { return slice_of_used(top, "q"); });
-    expect_texts({"wire_arr_s[2:2]", "wire_arr_s(2)", "arr[2].s"},
-                 [&](open_design & top) { return slice_of_used(top, "s"); });
+    expect_language_texts({"wire_arr_q[23:16]", "wire_arr_q(23 DOWNTO 16)", "arr[2].q[]"},
+                          [&](open_design & top) { return slice_of_used(top, "q"); });
+    expect_language_texts({"wire_arr_s[2:2]", "wire_arr_s(2)", "arr[2].s"},
+                          [&](open_design & top) { return slice_of_used(top, "s"); });
 }
 
 TEST_F(PortDescription, OutputOfASliceIsItsOwnSignal)
@@ -198,10 +182,10 @@ TEST_F(PortDescription, OutputOfASliceIsItsOwnSignal)
         cells.set_vhdl_unroll_loop();
         return described(cells[2].port(name), top);
     };
-    expect_texts({"wire_arr_2q[7:0]", "wire_arr_2q(7 DOWNTO 0)", "arr[2].q[]"},
-                 [&](open_design & top) { return own_slice(top, "q"); });
-    expect_texts({"wire_arr_2s[0:0]", "wire_arr_2s", "arr[2].s"},
-                 [&](open_design & top) { return own_slice(top, "s"); });
+    expect_language_texts({"wire_arr_2q[7:0]", "wire_arr_2q(7 DOWNTO 0)", "arr[2].q[]"},
+                          [&](open_design & top) { return own_slice(top, "q"); });
+    expect_language_texts({"wire_arr_2s[0:0]", "wire_arr_2s", "arr[2].s"},
+                          [&](open_design & top) { return own_slice(top, "s"); });
 }
 
 TEST_F(PortDescription, OutputOfACellThatIsWrittenAsStatementsIsANodeInQhdl)
@@ -229,10 +213,10 @@ TEST_F(PortDescription, OutputOfACellThatIsWrittenAsStatementsIsANodeInQhdl)
 
 TEST_F(PortDescription, BidirOfTheDesignAndOfASubdesign)
 {
-    expect_texts({"io  io", "io  io(7 DOWNTO 0)", "io[]  io[7..0]"},
-                 [](open_design & top) { return both_forms(top.bidir("io", 8), top); });
-    expect_texts({"wire_u1_io  wire_u1_io", "wire_u1_io  wire_u1_io", "u1.io[]  u1.io[7..0]"},
-                 [](open_design & top) { return both_forms(top.child("leaf", "u1").bidir("io", 8), top); });
+    expect_language_texts({"io  io", "io  io(7 DOWNTO 0)", "io[]  io[7..0]"},
+                          [](open_design & top) { return both_forms(top.bidir("io", 8), top); });
+    expect_language_texts({"wire_u1_io  wire_u1_io", "wire_u1_io  wire_u1_io", "u1.io[]  u1.io[7..0]"},
+                          [](open_design & top) { return both_forms(top.child("leaf", "u1").bidir("io", 8), top); });
 }
 
 TEST_F(PortDescription, DrivenBidirOfASubdesignIsANodeInQhdl)
@@ -263,14 +247,14 @@ TEST_F(PortDescription, BidirOfASlice)
         cells.port(name).set_used(as_whole);
         return described(port, top);
     };
-    expect_texts({"wire_arr_io[23:16]", "wire_arr_io(23 DOWNTO 16)", "arr[2].io[]"},
-                 [&](open_design & top) { return text(top, "io", true); });
-    expect_texts({"wire_arr_s[2:2]", "wire_arr_s(2)", "arr[2].s"},
-                 [&](open_design & top) { return text(top, "s", true); });
-    expect_texts({"wire_arr_2io[7:0]", "wire_arr_2io(7 DOWNTO 0)", "arr[2].io[]"},
-                 [&](open_design & top) { return text(top, "io", false); });
-    expect_texts({"wire_arr_2s[0:0]", "wire_arr_2s", "arr[2].s"},
-                 [&](open_design & top) { return text(top, "s", false); });
+    expect_language_texts({"wire_arr_io[23:16]", "wire_arr_io(23 DOWNTO 16)", "arr[2].io[]"},
+                          [&](open_design & top) { return text(top, "io", true); });
+    expect_language_texts({"wire_arr_s[2:2]", "wire_arr_s(2)", "arr[2].s"},
+                          [&](open_design & top) { return text(top, "s", true); });
+    expect_language_texts({"wire_arr_2io[7:0]", "wire_arr_2io(7 DOWNTO 0)", "arr[2].io[]"},
+                          [&](open_design & top) { return text(top, "io", false); });
+    expect_language_texts({"wire_arr_2s[0:0]", "wire_arr_2s", "arr[2].s"},
+                          [&](open_design & top) { return text(top, "s", false); });
 }
 
 /// A plain port of `width` bits that holds `value`.
@@ -283,20 +267,22 @@ GNL_PORT & constant(open_design & top, int width, int value)
 
 TEST_F(PortDescription, Constants)
 {
-    expect_texts({"{4{1'b0}}", "\"0000\"", "B\"0000\""},
-                 [](open_design & top) { return described(constant(top, 4, 0), top); });
-    expect_texts({"{4{1'b1}}", "\"1111\"", "B\"1111\""},
-                 [](open_design & top) { return described(constant(top, 4, 15), top); });
-    expect_texts({"4'b0101", "\"0101\"", "B\"0101\""},
-                 [](open_design & top) { return described(constant(top, 4, 5), top); });
-    expect_texts({"1'b1", "\"1\"", "B\"1\""}, [](open_design & top) { return described(constant(top, 1, 1), top); });
-    expect_texts({"1'b0", "\"0\"", "B\"0\""}, [](open_design & top) { return described(constant(top, 0, 0), top); });
-    expect_texts({"", "", ""}, [](open_design & top) { return described(*new GNL_PORT(&top, "k", 4), top); });
+    expect_language_texts({"{4{1'b0}}", "\"0000\"", "B\"0000\""},
+                          [](open_design & top) { return described(constant(top, 4, 0), top); });
+    expect_language_texts({"{4{1'b1}}", "\"1111\"", "B\"1111\""},
+                          [](open_design & top) { return described(constant(top, 4, 15), top); });
+    expect_language_texts({"4'b0101", "\"0101\"", "B\"0101\""},
+                          [](open_design & top) { return described(constant(top, 4, 5), top); });
+    expect_language_texts({"1'b1", "\"1\"", "B\"1\""},
+                          [](open_design & top) { return described(constant(top, 1, 1), top); });
+    expect_language_texts({"1'b0", "\"0\"", "B\"0\""},
+                          [](open_design & top) { return described(constant(top, 0, 0), top); });
+    expect_language_texts({"", "", ""}, [](open_design & top) { return described(*new GNL_PORT(&top, "k", 4), top); });
 }
 
 TEST_F(PortDescription, ConstantWithoutAValueIsNothing)
 {
-    expect_texts({"", "", ""}, [](open_design & top) {
+    expect_language_texts({"", "", ""}, [](open_design & top) {
         auto & port = constant(top, 4, 5);
         port.remove_constant_driver();
         return described(port, top);
