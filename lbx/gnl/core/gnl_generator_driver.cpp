@@ -198,10 +198,11 @@ void GNL_GENERATOR::generation_run::move_to_verilog()
 
 void GNL_GENERATOR::generation_run::settle_name(bool common_design)
 {
-    int const errors = m_generator.msg_handler().get_error_count();
+    auto & top = *m_generator.get_top_level_parent();
+    int const errors = top.msg_handler().get_error_count();
     bool const off_before = !m_generator.generate_file();
     auto name = m_generator.get_subdesign_name();
-    m_checked_free = !m_top && m_generator.msg_handler().get_error_count() == errors;
+    m_checked_free = !m_top && top.msg_handler().get_error_count() == errors;
     m_generator.set_entity_name(name);
     if (m_top)
         m_generator.set_file_name(name + std::string(current_language_text().extension));
@@ -211,7 +212,7 @@ void GNL_GENERATOR::generation_run::settle_name(bool common_design)
     if (common_design)
         m_name = name;
     else
-        m_generator.get_top_level_parent()->remove_from_list_of_subdesigns(name);
+        top.remove_from_list_of_subdesigns(name);
 }
 
 bool GNL_GENERATOR::generation_run::may_be_written()

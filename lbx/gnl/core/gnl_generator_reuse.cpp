@@ -194,7 +194,7 @@ int GNL_GENERATOR::check_if_file_matches_current_settings(std::string const & fi
 
 int GNL_GENERATOR::check_list_of_subdesigns(std::string const & name, std::string const & header)
 {
-    auto const [entry, is_new] = m_state.list_of_subdesigns.emplace(name, header);
+    auto const [entry, is_new] = m_state.list_of_subdesigns.try_emplace(name, header);
     if (is_new)
         return 2;
     return equal_folded(entry->second, header) ? 0 : 1;

@@ -125,7 +125,8 @@ int GNL_GENERATOR::generator_result() const
 
 bool GNL_GENERATOR::check_error_flag() const
 {
-    return msg_handler().get_error_count() > 0;
+    // The count is the process's; a subdesign needs no handler of its own to ask for it.
+    return get_top_level_parent()->msg_handler().get_error_count() > 0;
 }
 
 char const * GNL_GENERATOR::get_simulation_library()

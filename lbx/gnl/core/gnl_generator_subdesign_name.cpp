@@ -154,7 +154,7 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_list()
         if (is_name_of_top(found))
             continue;
         int const result = m_top.check_list_of_subdesigns(found, m_header);
-        space.take(m_seed, folded(m_top.m_state.list_of_subdesigns[found]));
+        space.take(m_seed, result == 1 ? folded(m_top.m_state.list_of_subdesigns[found]) : m_settings);
         if (result == 0 && m_generator.dump_timing_assignments_header().empty())
             m_generator.dont_generate_file();
         else if (result != 2)

@@ -44,6 +44,8 @@ int seed_space::first_candidate(int seed, std::string const & settings) const
 
 void seed_space::take(int seed, std::string const & settings)
 {
+    if (auto const holder = m_settings.find(seed); holder != m_settings.end() && *holder->second == settings)
+        return;
     release(seed);
     if (!settings.empty()) {
         auto const known = m_seeds.try_emplace(settings).first;
