@@ -11,9 +11,8 @@ namespace gnl_detail {
 
 element_registry::slot element_registry::find_named(element_kind kind, key_text const & text) const
 {
-    return m_table.find(text.hash(kind), [&](slot candidate) {
-        entry const & filed = m_entries[candidate];
-        return filed.kind == kind && named_key(kind, *filed.element).text().compare(text) == 0;
+    return m_table.find(text.hash(kind), m_entries, [&](entry const & candidate) {
+        return candidate.kind == kind && named_key(kind, *candidate.element).text().compare(text) == 0;
     });
 }
 
@@ -70,10 +69,11 @@ GNL_GENERATOR * element_registry::find_generator(std::string_view name, std::str
 GNL_PORT_LOGIC * element_registry::find_logic(int operation, GNL_PORT const * first, GNL_PORT const * second)
 {
     file_pending();
-    return element_at<GNL_PORT_LOGIC>(m_table.find(hash_of_logic(operation, first, second), [&](slot candidate) {
-        if (m_entries[candidate].kind != element_kind::logic)
+    auto const hash = hash_of_logic(operation, first, second);
+    return element_at<GNL_PORT_LOGIC>(m_table.find(hash, m_entries, [&](entry const & candidate) {
+        if (candidate.kind != element_kind::logic)
             return false;
-        auto const & logic = static_cast<GNL_PORT_LOGIC const &>(*m_entries[candidate].element);
+        auto const & logic = static_cast<GNL_PORT_LOGIC const &>(*candidate.element);
         return logic.get_operation() == operation && logic.get_first_operand() == first
                && logic.get_second_operand() == second;
     }));
@@ -83,10 +83,11 @@ GNL_PORT_OUTPUT_RANGE * element_registry::find_range(GNL_PORT const * port, int 
                                                      GNL_GENERATOR const * level)
 {
     file_pending();
-    return element_at<GNL_PORT_OUTPUT_RANGE>(m_table.find(hash_of_range(port, high, low, level), [&](slot candidate) {
-        if (m_entries[candidate].kind != element_kind::range)
+    auto const hash = hash_of_range(port, high, low, level);
+    return element_at<GNL_PORT_OUTPUT_RANGE>(m_table.find(hash, m_entries, [&](entry const & candidate) {
+        if (candidate.kind != element_kind::range)
             return false;
-        auto const & range = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*m_entries[candidate].element);
+        auto const & range = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*candidate.element);
         return range.get_key_port() == port && range.get_made_level() == level && range.get_high_index() == high
                && range.get_low_index() == low;
     }));

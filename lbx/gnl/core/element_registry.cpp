@@ -170,7 +170,7 @@ element_registry::slot element_registry::holder_of_key(slot which)
 {
     entry const & wanted = m_entries[which];
     slot const found =
-        m_table.find(wanted.hash, [&](slot candidate) { return same_key(m_entries[candidate], wanted); });
+        m_table.find(wanted.hash, m_entries, [&](entry const & candidate) { return same_key(candidate, wanted); });
     if (found != slot_table::none || !has_explicit_keys())
         return found;
     return find_explicit(wanted.element->generate_key());
@@ -199,6 +199,7 @@ void element_registry::enter(slot which)
 {
     entry & filed = m_entries[which];
     filed.state = entry_state::filed;
+    ++m_filed_counts[static_cast<std::size_t>(filed.kind)];
     if (auto const & order = m_orders[static_cast<std::size_t>(filed.kind)])
         order->added.push_back(which);
 }
@@ -262,9 +263,10 @@ void element_registry::shadow(slot which)
 void element_registry::unfile(slot which)
 {
     entry const & filed = m_entries[which];
+    --m_filed_counts[static_cast<std::size_t>(filed.kind)];
     if (auto const & order = m_orders[static_cast<std::size_t>(filed.kind)]) {
         order->lost_some = true;
-        if (order->made)
+        if (order->made && !m_closing)
             order->made->remove(which);
     }
     if (m_seldom)
@@ -273,7 +275,8 @@ void element_registry::unfile(slot which)
             m_seldom->explicit_keys.erase(key);
             return;
         }
-    m_table.remove(which, filed.hash);
+    if (!m_closing)
+        m_table.remove(which, filed.hash);
 }
 
 /// The key of a generator without an instance name is free: the next in order of declaration takes it.

@@ -178,15 +178,18 @@ private:
     public:
         static constexpr slot none = 0xffffffffU;
 
-        /// The slot among those of `hash` that `match` accepts, or none.
-        template <class MATCH> slot find(std::uint32_t hash, MATCH match) const
+        /// The slot among those of `hash` that `match` accepts by its entry, or none.
+        template <class MATCH> slot find(std::uint32_t hash, std::vector<entry> const & entries, MATCH match) const
         {
             if (m_places.empty())
                 return none;
             for (std::size_t at = hash & mask();; at = (at + 1) & mask()) {
                 if (m_places[at] == none)
                     return none;
-                if (m_places[at] != removed && match(m_places[at]))
+                if (m_places[at] == removed)
+                    continue;
+                entry const & candidate = entries[m_places[at]];
+                if (candidate.hash == hash && candidate.element && match(candidate))
                     return m_places[at];
             }
         }
@@ -257,6 +260,7 @@ private:
         return which == slot_table::none ? nullptr : static_cast<TYPE *>(m_entries[which].element);
     }
 
+    std::shared_ptr<std::vector<GNL_ELEMENT *> const> elements_of(element_kind kind);
     kind_order & brought_up_to_date(element_kind kind);
     kind_order & order_of(element_kind kind);
     void sort_named(element_kind kind, kind_order & order) const;
@@ -272,10 +276,7 @@ private:
                 found.push_back(static_cast<TYPE *>(held.element));
         return found;
     }
-    template <class TYPE> element_walk<TYPE> walk(element_kind kind)
-    {
-        return element_walk<TYPE>(brought_up_to_date(kind).elements);
-    }
+    template <class TYPE> element_walk<TYPE> walk(element_kind kind) { return element_walk<TYPE>(elements_of(kind)); }
 
     GNL_GENERATOR & m_owner;
     std::vector<entry> m_entries; ///< by slot
@@ -283,6 +284,7 @@ private:
     slot m_count = 0;             ///< of all that is held
     bool m_closing = false;
     slot_table m_table;
+    std::array<slot, element_kind_count> m_filed_counts{};                ///< by kind
     std::array<std::unique_ptr<kind_order>, element_kind_count> m_orders; ///< null until the first walk
     std::unique_ptr<seldom_needed> m_seldom;
 };

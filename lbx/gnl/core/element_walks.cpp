@@ -22,6 +22,14 @@ element_registry::kind_order & element_registry::order_of(element_kind kind)
     return *order;
 }
 
+/// Most generators lack most kinds.
+std::shared_ptr<std::vector<GNL_ELEMENT *> const> element_registry::elements_of(element_kind kind)
+{
+    static auto const none = std::make_shared<std::vector<GNL_ELEMENT *> const>();
+    file_pending();
+    return m_filed_counts[static_cast<std::size_t>(kind)] == 0 ? none : brought_up_to_date(kind).elements;
+}
+
 element_registry::kind_order & element_registry::brought_up_to_date(element_kind kind)
 {
     file_pending();
@@ -214,11 +222,11 @@ private:
     {
         auto & of_kind = registry.order_of(kind);
         if (!of_kind.made)
-            of_kind.made = std::make_unique<expression_order>([&registry, comparison = expression_comparison()](
-                                                                   slot a, slot b) mutable {
-                int const result = comparison.compare(made(registry, a), made(registry, b), true);
-                return result != 0 ? result < 0 : a < b;
-            });
+            of_kind.made = std::make_unique<expression_order>(
+                [&registry, comparison = expression_comparison()](slot a, slot b) mutable {
+                    int const result = comparison.compare(made(registry, a), made(registry, b), true);
+                    return result != 0 ? result < 0 : a < b;
+                });
         return *of_kind.made;
     }
 
