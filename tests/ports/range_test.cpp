@@ -450,4 +450,14 @@ TEST_F(Range, AHundredThousandRangesDeep)
     EXPECT_EQ(part->generate_key().substr(0, 8), "RNG;RNG;");
 }
 
+TEST_F(Range, OfExpressionsOfRangesFiftyThousandDeep)
+{
+    auto & a = top.input("a", 8);
+    GNL_PORT * part = &a;
+    for (int i = 0; i < 50000; ++i)
+        part = &(*part ^ a).range(7, 0);
+    EXPECT_EQ(part->generate_key().substr(0, 24), "RNG;LGC;XOR;RNG;LGC;XOR;");
+    EXPECT_EQ(top.messages(), texts{});
+}
+
 } // namespace

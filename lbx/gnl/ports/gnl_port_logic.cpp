@@ -1,5 +1,6 @@
 #include "gnl_port_logic.h"
 #include "gnl_generator.h"
+#include "operator_keys.h"
 
 #include <vector>
 
@@ -11,22 +12,6 @@ namespace {
 
 /// Rises with each exchange of an operand, which can change the answer of every expression above it.
 std::uint32_t operand_epoch = 1;
-
-std::string_view key_word(int operation)
-{
-    switch (operation) {
-    case GNL_PORT_LOGIC::not_operation:
-        return "NOT";
-    case GNL_PORT_LOGIC::and_operation:
-        return "AND";
-    case GNL_PORT_LOGIC::or_operation:
-        return "OR";
-    case GNL_PORT_LOGIC::xor_operation:
-        return "XOR";
-    default:
-        return "UNKNOWN";
-    }
-}
 
 std::string_view word_in_messages(int operation)
 {
@@ -42,11 +27,6 @@ std::string_view word_in_messages(int operation)
     }
 }
 
-GNL_PORT_LOGIC const * as_logic(GNL_PORT const * port)
-{
-    return port && port->is_logic() ? static_cast<GNL_PORT_LOGIC const *>(port) : nullptr;
-}
-
 GNL_PORT_LOGIC * as_logic(GNL_PORT * port)
 {
     return port && port->is_logic() ? static_cast<GNL_PORT_LOGIC *>(port) : nullptr;
@@ -60,61 +40,6 @@ int width_over(GNL_PORT * first, GNL_PORT * second)
     bool const second_is_wider = second && second->get_bus_width() > first->get_bus_width();
     return second_is_wider ? second->get_width() : first->get_width();
 }
-
-/// Builds the key text of an expression, which holds the keys of its operands.
-class key_writer
-{
-public:
-    std::string key_of(GNL_PORT_LOGIC const & logic)
-    {
-        m_stack.push_back({&logic, ""});
-        while (!m_stack.empty()) {
-            part const next = m_stack.back();
-            m_stack.pop_back();
-            write(next);
-        }
-        return std::move(m_key);
-    }
-
-private:
-    /// The key of `port`, or of its parent when `parent_key` is set, behind `separator`.
-    struct part
-    {
-        GNL_PORT const * port;
-        char const * separator;
-        bool parent_key = false;
-    };
-
-    void write(part const & next)
-    {
-        m_key += next.separator;
-        GNL_PORT_LOGIC const * const logic = as_logic(next.port);
-        if (next.parent_key)
-            m_key += next.port->get_parent_key();
-        else if (logic)
-            open(*logic);
-        else
-            m_key += next.port->generate_key();
-    }
-
-    void open(GNL_PORT_LOGIC const & logic)
-    {
-        m_key += GNL_PORT_LOGIC::generate_key_base(std::string(key_word(logic.get_operation())), "", "");
-        push(logic.get_second_operand(), ";");
-        push(logic.get_first_operand(), "");
-    }
-
-    void push(GNL_PORT const * operand, char const * separator)
-    {
-        if (!operand)
-            return;
-        m_stack.push_back({operand, ";", true});
-        m_stack.push_back({operand, separator});
-    }
-
-    std::string m_key;
-    std::vector<part> m_stack; ///< the next part last
-};
 
 } // namespace
 
@@ -138,7 +63,7 @@ std::string GNL_PORT_LOGIC::generate_key_base(std::string const & operation, std
 
 std::string GNL_PORT_LOGIC::generate_key() const
 {
-    return key_writer().key_of(*this);
+    return gnl_detail::operator_key(*this);
 }
 
 std::string GNL_PORT_LOGIC::get_hierarchical_name() const

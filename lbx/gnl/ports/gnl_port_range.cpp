@@ -3,12 +3,11 @@
 #include "gnl_generator.h"
 #include "hierarchical_names.h"
 #include "made_port.h"
+#include "operator_keys.h"
 #include "port_messages.h"
 #include "saturated.h"
 
 #include "lbx/gnl/core/element_registry.h"
-
-#include <vector>
 
 using gnl_detail::make_port;
 using gnl_detail::port_message;
@@ -240,28 +239,9 @@ std::string GNL_PORT_OUTPUT_RANGE::generate_key_base(std::string const & base, i
     return "RNG;" + base + ";" + convert_int_to_string(high) + ";" + convert_int_to_string(low);
 }
 
-/// The key of a range holds that of its port. In a chain of ranges the innermost one's key is built first and each of
-/// the others put around it.
 std::string GNL_PORT_OUTPUT_RANGE::generate_key() const
 {
-    std::vector<GNL_PORT_OUTPUT_RANGE const *> chain;
-    GNL_PORT const * base = this;
-    while (base && base->is_range_port()) {
-        chain.push_back(static_cast<GNL_PORT_OUTPUT_RANGE const *>(base));
-        base = chain.back()->get_key_port();
-    }
-    std::string key;
-    for (std::size_t i = 0; i < chain.size(); ++i)
-        key += "RNG;";
-    if (base)
-        key += base->generate_key();
-    for (auto range = chain.rbegin(); range != chain.rend(); ++range) {
-        GNL_PORT const * const port = (*range)->get_key_port();
-        GNL_GENERATOR const * const level = (*range)->m_made_level;
-        key += ";" + (port ? port->get_parent_key() : std::string()) + ";" + (level ? level->generate_key() : "NULL");
-        key += ";" + convert_int_to_string((*range)->m_high_index) + ";" + convert_int_to_string((*range)->m_low_index);
-    }
-    return key;
+    return gnl_detail::operator_key(*this);
 }
 
 std::string GNL_PORT_OUTPUT_RANGE::get_hierarchical_name() const
