@@ -92,9 +92,9 @@ TEST_F(Messages, ListStartsEmptyAndGrows)
 TEST_F(Messages, ListOfNoEntriesTakesSomeAllTheSame)
 {
     for (int initial : {0, -3}) {
+        int deleted = 0;
         GNL_OBJ_LIST list(initial);
         list.set_growth_size(0);
-        int deleted = 0;
         list.add(new counted_item(deleted));
         EXPECT_EQ(list.get_count(), 1);
     }

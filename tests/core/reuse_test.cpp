@@ -121,6 +121,11 @@ TEST_F(FileReuse, AnyOtherLastLineIsDifferent)
     EXPECT_EQ(answer(file("//VALID FILE\n//ERROR FILE\n")), 3);
 }
 
+TEST_F(FileReuse, AnEmptyLineBehindTheLastLineDoesNotMatter)
+{
+    EXPECT_EQ(answer(file("//VALID FILE\n\n")), 1);
+}
+
 TEST_F(FileReuse, CarriageReturnsDoNotMatter)
 {
     std::string text;
