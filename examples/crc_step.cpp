@@ -15,7 +15,7 @@ public:
         : GNL_GENERATOR(parent, "crc_step", text)
         , WIDTH(this, "WIDTH", 8)
         , DATA_WIDTH(this, "DATA_WIDTH", 8)
-        , POLYNOMIAL(this, "POLYNOMIAL", "0x07", 64)
+        , POLYNOMIAL(this, "POLYNOMIAL", -1, 64) // a vector is always given a value
         , crc(this, "crc", "WIDTH")
         , data(this, "data", "DATA_WIDTH")
         , next(this, "next", "WIDTH")
@@ -25,9 +25,8 @@ public:
 protected:
     void rtl_body(std::ostream & out) override
     {
-        // The polynomial can be given in hexadecimal (0x1021), binary (0b111) or decimal.
-        MLIB_UINTEGER const & polynomial =
-            POLYNOMIAL.is_used() ? POLYNOMIAL.get_value() : *POLYNOMIAL.get_default_value();
+        // 0x1021, 0b111 or 7: any number form
+        MLIB_UINTEGER const & polynomial = POLYNOMIAL.get_value();
         int const width = WIDTH.get_value();
         check_parameter(*this, "WIDTH", width, 1, 64);
         check_parameter(*this, "DATA_WIDTH", DATA_WIDTH.get_value(), 1, 4096);

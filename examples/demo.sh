@@ -9,8 +9,10 @@ lbxgen=("$build/frontend/lbxgen" --plugin "$build/examples/lbx_examples.so")
 mkdir -p "$out/verilog" "$out/tcl"
 "${lbxgen[@]}" list | while read -r name summary; do
   echo "$name: $summary"
-  "${lbxgen[@]}" generate "$name" -d "$out/verilog" -o "$name.v" -l verilog >/dev/null
-  "${lbxgen[@]}" generate "$name" -d "$out/tcl" -o "$name.tcl" -l tcl >/dev/null
+  parameters=()
+  [ "$name" = crc_step ] && parameters=(POLYNOMIAL=0x07) # the one parameter without a default
+  "${lbxgen[@]}" generate "$name" "${parameters[@]}" -d "$out/verilog" -o "$name.v" -l verilog >/dev/null
+  "${lbxgen[@]}" generate "$name" "${parameters[@]}" -d "$out/tcl" -o "$name.tcl" -l tcl >/dev/null
   iverilog -g2005 -t null "$out/verilog/$name.v"
 done
 echo

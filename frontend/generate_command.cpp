@@ -103,6 +103,7 @@ int generate(plugin_catalogue const & catalogue, request const & wanted, output 
 {
     auto const top = catalogue.find(wanted.generator).make("");
     assign_values(*top, values_of(wanted));
+    use_all_inputs(*top);
     auto const thrown = run(*top, out.results);
 
     auto messages = messages_of(*top);

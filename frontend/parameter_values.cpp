@@ -6,6 +6,7 @@
 #include "lbx_util.h"
 
 #include <charconv>
+#include <map>
 
 namespace lbxgen {
 
@@ -48,6 +49,15 @@ std::vector<std::string> parameter_names(GNL_GENERATOR & generator)
     for (char ** entry = generator.get_parameter_list(); **entry != '\0'; ++entry)
         names.emplace_back(*entry);
     return names;
+}
+
+void use_all_inputs(GNL_GENERATOR & generator)
+{
+    std::map<std::string, GNL_PORT *, LESS_C_STRING> ports;
+    generator.get_port_objects(ports);
+    for (auto const & entry : ports)
+        if (entry.second->is_input())
+            generator.set_port_to_used(entry.first.c_str());
 }
 
 void assign_values(GNL_GENERATOR & generator, std::vector<parameter_value> const & values)

@@ -21,6 +21,9 @@ parameter_value parse_parameter_value(std::string const & text);
 /// and for an integer that is none.
 void assign_values(GNL_GENERATOR & generator, std::vector<parameter_value> const & values);
 
+/// Marks every declared input as used: a design for the outside has all its inputs, also those that have a default.
+void use_all_inputs(GNL_GENERATOR & generator);
+
 /// The names of the generator's parameters and parameter arrays.
 std::vector<std::string> parameter_names(GNL_GENERATOR & generator);
 

@@ -1,54 +1,12 @@
-// Each flat example is generated as Verilog, compiled, linted and simulated against a model written here.
+// The examples without subdesigns.
 
-#include "support.h"
-#include "verilog_simulation.h"
-
-#include "lbx_plugin.h"
+#include "example_test.h"
 
 #include <bit>
 
-extern "C" lbx::plugin_contents const * lbx_plugin();
-
 namespace {
 
-using namespace gnl_test;
-
-std::unique_ptr<GNL_GENERATOR> make_example(std::string const & name, std::string const & text)
-{
-    for (auto const & entry : *lbx_plugin()->classes)
-        if (entry.name == name)
-            return entry.make(text.c_str());
-    return nullptr;
-}
-
-std::string messages_of(GNL_GENERATOR & top)
-{
-    std::string all;
-    top.reset_msg_list();
-    while (top.move_to_next_msg())
-        all += std::string(top.get_cur_msg()->get_msg_text()) + "\n";
-    return all;
-}
-
-/// One example with one setting of its parameters.
-struct example
-{
-    std::string name;
-    std::string parameters;
-    std::vector<pin> inputs;
-    std::vector<pin> outputs;
-    std::function<vector_of_pins(vector_of_pins const &)> model;
-};
-
-void PrintTo(example const & shown, std::ostream * out)
-{
-    *out << shown.name << " " << shown.parameters;
-}
-
-std::uint64_t mask(int width)
-{
-    return width >= 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << width) - 1;
-}
+using namespace example_test;
 
 example adder(int width)
 {
@@ -169,35 +127,15 @@ class FlatExamples : public in_folder_with_parameter<example>
 TEST_P(FlatExamples, SimulateLikeTheirModel)
 {
     SKIP_WITHOUT("iverilog");
-    example const & tried = GetParam();
-    unsigned const seed = test_seed();
-    SCOPED_TRACE("LBX_TEST_SEED=" + std::to_string(seed));
-    auto const top = make_example(tried.name, "LBX_FILE=" + tried.name + ".v," + tried.parameters);
-    ASSERT_NE(top, nullptr);
-    std::ostringstream stream;
-    top->generate_subdesign(stream);
-    ASSERT_EQ(top->generator_result(), 0) << messages_of(*top);
-    EXPECT_EQ(messages_of(*top), "");
-
-    auto const stimulus = stimulus_for(tried.inputs, seed);
-    auto const results = verilog_simulation(tried.name, tried.inputs, tried.outputs).run(tried.name + ".v", stimulus);
-    for (std::size_t i = 0; i < stimulus.size(); ++i)
-        ASSERT_EQ(results[i], tried.model(stimulus[i])) << "vector " << i;
+    generate_cleanly(GetParam());
+    simulate_like_the_model(GetParam(), GetParam().name + ".v");
 }
 
 TEST_P(FlatExamples, AreCleanForTheLinter)
 {
     SKIP_WITHOUT("verilator");
-    example const & tried = GetParam();
-    auto const top = make_example(tried.name, "LBX_FILE=" + tried.name + ".v," + tried.parameters);
-    std::ostringstream stream;
-    top->generate_subdesign(stream);
-    // -Wno-DECLFILENAME: the file's name is the caller's choice.
-    // -Wno-UNUSED: a carry or shifted-out bit that nobody reads is part of a regular structure.
-    // -Wno-TIMESCALEMOD: only the generated file sets a time scale.
-    auto const linted =
-        run_command("verilator --lint-only -Wall -Wno-DECLFILENAME -Wno-UNUSED -Wno-TIMESCALEMOD " + tried.name + ".v");
-    EXPECT_EQ(linted.status, 0) << linted.text;
+    generate_cleanly(GetParam());
+    EXPECT_EQ(linted(GetParam(), GetParam().name + ".v"), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, FlatExamples,
@@ -205,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(Examples, FlatExamples,
                                            parity(2, true), parity(7, false), parity(12, true), parity(40, false),
                                            to_gray(1), to_gray(2), to_gray(12), to_gray(48), from_gray(1), from_gray(2),
                                            from_gray(12), from_gray(48), decoder(1), decoder(3), decoder(6), rotator(1),
-                                           rotator(3), rotator(5), crc(1, 1, "1", 1), crc(8, 4, "", 0x07),
+                                           rotator(3), rotator(5), crc(1, 1, "1", 1), crc(8, 4, "0x07", 0x07),
                                            crc(16, 8, "0x1021", 0x1021), crc(5, 7, "0b00101", 5),
                                            crc(32, 32, "0x04C11DB7", 0x04C11DB7), adapter(1, 2), adapter(2, 5),
                                            adapter(4, 8), adapter(7, 9)));
@@ -218,7 +156,8 @@ TEST_F(ExampleErrors, AnImpossibleDecoderIsReportedAndMarkedInItsFile)
     std::ostringstream stream;
     top->generate_subdesign(stream);
     EXPECT_EQ(top->generator_result(), 1);
-    EXPECT_NE(messages_of(*top).find("ADDRESS_WIDTH is 20 CAUSE : It must be from 1 to 16. ACTION : Choose a value from 1 to 16."),
+    EXPECT_NE(messages_of(*top).find(
+                  "ADDRESS_WIDTH is 20 CAUSE : It must be from 1 to 16. ACTION : Choose a value from 1 to 16."),
               std::string::npos)
         << messages_of(*top);
     auto const text = file_text("decoder.v");
