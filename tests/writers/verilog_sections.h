@@ -29,6 +29,7 @@ public:
     /// Makes connections as the body of the design does.
     template <class STATEMENTS> void connect(STATEMENTS && statements)
     {
+        initialize_param_list(); // options come before the body
         set_in_rtl_body();
         statements();
         set_out_of_rtl_body();

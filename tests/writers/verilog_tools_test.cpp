@@ -128,6 +128,18 @@ std::vector<vector_of_pins> simulated(tried const & of, std::vector<pin> const &
 
 using VerilogMeaning = in_folder;
 
+/// The compiler's words without those that our text draws on purpose: an input with a default is declared tri0 or tri1,
+/// so that it may stay open, and the compiler then takes its port for one in both directions.
+std::string complaints(std::string const & words)
+{
+    std::istringstream lines(words);
+    std::string rest;
+    for (std::string line; std::getline(lines, line);)
+        if (!line.ends_with("is coerced to inout."))
+            rest += line + "\n";
+    return rest;
+}
+
 } // namespace
 
 TEST_P(VerilogTools, ACompilerReadsIt)
@@ -136,7 +148,7 @@ TEST_P(VerilogTools, ACompilerReadsIt)
     ASSERT_NO_FATAL_FAILURE(generate());
     auto const result = run_command("iverilog -g2005 -Wall -Wno-timescale -s top -o top.vvp top.v blk.v");
     EXPECT_EQ(result.status, 0) << result.text << file_text("top.v");
-    EXPECT_EQ(result.text, "") << file_text("top.v");
+    EXPECT_EQ(complaints(result.text), "") << file_text("top.v");
 }
 
 TEST_P(VerilogTools, ALinterIsContent)
@@ -146,8 +158,10 @@ TEST_P(VerilogTools, ALinterIsContent)
     // -Wno-DECLFILENAME: all modules of a design stand in one file.
     // -Wno-UNUSED: a model of a cell has parameters and pins that nobody reads.
     // -Wno-PINCONNECTEMPTY: an unused output of a cell is open on purpose.
-    auto const result = run_command("verilator --lint-only -Wall -Wno-DECLFILENAME -Wno-UNUSED -Wno-PINCONNECTEMPTY "
-                                    "--top-module top top.v blk.v");
+    // -Wno-DEFPARAM: cells get their values in defparam blocks, which older tools read too.
+    auto const result =
+        run_command("verilator --lint-only -Wall -Wno-DECLFILENAME -Wno-UNUSED -Wno-PINCONNECTEMPTY -Wno-DEFPARAM "
+                    "--top-module top top.v blk.v");
     EXPECT_EQ(result.status, 0) << result.text << file_text("top.v");
 }
 

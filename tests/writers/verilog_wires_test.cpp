@@ -390,8 +390,8 @@ TEST_F(VerilogWires, AStructuralNetlistDeclaresExpressionsOnResultsOfSubdesigns)
                            "\twire  wire_u_q;\n");
     EXPECT_EQ(written(u, &GNL_GENERATOR::dump_verilog_wires, nullptr), "\twire  wire_u_q;\n");
     EXPECT_EQ(wires_of(arr), "\twire  [3:0]   wire_arr_1r;\n"
-                             "\twire  [3:0]  w_lg_r1w;\n");
+                             "\twire  [3:0]  w_lg_r2w;\n");
     EXPECT_EQ(written(arr[1], &GNL_GENERATOR::dump_verilog_structural_netlist_wires, &top),
-              "\twire  [3:0]  w_lg_r1w;\n");
+              "\twire  [3:0]  w_lg_r2w;\n");
     EXPECT_EQ(written(arr[0], &GNL_GENERATOR::dump_verilog_structural_netlist_wires, &top), "");
 }
