@@ -108,7 +108,7 @@ TEST(PositionalFormatter, SpecificationsMayHoldTextAndStars)
 {
     EXPECT_EQ(text("[%1!d bits!]", 8), "[8 bits]");
     EXPECT_EQ(text("[%1!*d!] %3!s!", 5, 42, "end"), "[   42] end");
-    EXPECT_EQ(text("%1!!", "x"), "x"); // an empty specification is none
+    EXPECT_EQ(text("%1!!", "x"), "x"); // an empty conversion is none
 }
 
 TEST(PositionalFormatter, ALongSpecificationIsCut)

@@ -15,7 +15,7 @@ namespace gnl_detail {
 ///     auto arguments = format.read_arguments(list);   // 8, "data"
 ///     format.text(arguments);                         // "data has 8 bits"
 ///
-/// "%1" to "%99", alone for a text or with a printf specification between two "!"; "%0" ends the format; "%" before
+/// "%1" to "%99", alone for a text or with a printf conversion between two "!"; "%0" ends the format; "%" before
 /// anything else stands for that character.
 class positional_format
 {
@@ -29,14 +29,14 @@ public:
     std::vector<format_argument> read_arguments(std::va_list list) const;
 
     std::string text(std::vector<format_argument> const & arguments) const;
-    /// The arguments alone, each by the first insert that gives it a specification, each followed by a blank. As many
+    /// The arguments alone, each by the first insert that gives it a conversion, each followed by a blank. As many
     /// arguments are looked for as the format has inserts.
     std::string arguments_text(std::vector<format_argument> const & arguments) const;
 
 private:
     struct piece
     {
-        std::string text;         ///< literal text, or the specification with its "%"
+        std::string text;         ///< literal text, or the conversion with its "%"
         std::size_t argument = 0; ///< number of the first argument it takes, 0 for literal text
         bool has_specification = false;
     };
