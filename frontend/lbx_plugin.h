@@ -61,9 +61,8 @@ struct registration
 /// Registers a generator class under `NAME`; its constructor takes (GNL_GENERATOR * parent, char const * text).
 #define LBX_REGISTER_GENERATOR(CLASS, NAME, SUMMARY)                                                                   \
     static ::lbx::plugin_detail::registration const CLASS##_registration(                                              \
-        {NAME, SUMMARY, [](char const * text) -> std::unique_ptr<GNL_GENERATOR> {                                      \
-             return std::make_unique<CLASS>(nullptr, text);                                                            \
-         }});
+        {NAME, SUMMARY,                                                                                                \
+         [](char const * text) -> std::unique_ptr<GNL_GENERATOR> { return std::make_unique<CLASS>(nullptr, text); }});
 
 /// Makes the shared object a plug-in; once in each.
 #define LBX_PLUGIN                                                                                                     \

@@ -222,8 +222,8 @@ public:
     /// @{
 
     /// "GNL_INTERNAL_ERROR: " message " CAUSE : " cause " ACTION : " action; cause and action can be null.
-    /// With `LBX_THROW_EXCEPTION_ON_ERROR` "ON" the text is thrown as a `char *` instead of posted; the catcher frees it
-    /// with `delete[]`.
+    /// With `LBX_THROW_EXCEPTION_ON_ERROR` "ON" the text is thrown as a `char *` instead of posted; the catcher frees
+    /// it with `delete[]`.
     void generator_error(std::string const & message, char const * cause, char const * action) const;
     void generator_error(char const * message, char const * cause, char const * action) const
     {

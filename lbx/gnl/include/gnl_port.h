@@ -108,8 +108,8 @@ public:
 
     /// @name Connections
     /// Legal inside `rtl_body` only. Defined in ports/gnl_port_connection.cpp, constants in
-    /// ports/gnl_port_constant_connection.cpp, `make_connection` in ports/gnl_port_range_connection.cpp. The messages are
-    /// those of ports/port_messages.h. Every one returns this port, also after an error.
+    /// ports/gnl_port_constant_connection.cpp, `make_connection` in ports/gnl_port_range_connection.cpp. The messages
+    /// are those of ports/port_messages.h. Every one returns this port, also after an error.
     /// @{
 
     /// Drives this port with `rhs`. Its width must be that of `rhs` or a multiple, which repeats `rhs`.
@@ -276,8 +276,8 @@ protected:
                           GNL_PORT * target);
     friend class gnl_detail::description_writer;
 
-    /// The concatenation that collects the pieces assigned to this port at `level`. The first piece makes it and marks a
-    /// pin as used. Defined in ports/gnl_port_range_connection.cpp.
+    /// The concatenation that collects the pieces assigned to this port at `level`. The first piece makes it and marks
+    /// a pin as used. Defined in ports/gnl_port_range_connection.cpp.
     GNL_PORT_CONCAT & driver_of_pieces(GNL_GENERATOR * level);
 
     /// Sets the width of an object that the operators make.
