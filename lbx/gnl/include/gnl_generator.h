@@ -488,22 +488,47 @@ public:
     /// @}
 
     /// @name VHDL
-    /// Defined in writers/gnl_generator_vhdl.cpp. These do nothing yet.
+    /// Entity: writers/gnl_generator_vhdl_entity.cpp. Components: writers/gnl_generator_vhdl_components.cpp,
+    /// writers/gnl_generator_vhdl_ports.cpp, writers/gnl_generator_vhdl_generics.cpp. Signals:
+    /// writers/gnl_generator_vhdl_signals.cpp, those that join a subdesign to its design
+    /// writers/gnl_generator_vhdl_wires.cpp. Libraries: writers/gnl_generator_vhdl_libraries.cpp. `signals` holds the
+    /// signals that several subdesigns share.
     /// @{
-    void dump_vhdl_port_section(std::ostream & out);
     void dump_vhdl_top_level_parameter_section(std::ostream & out);
+    void dump_vhdl_port_section(std::ostream & out);
     void dump_vhdl_variables_and_subdesigns(std::ostream & out,
-                                            std::map<std::string, std::string, LESS_C_STRING> & types);
-    void dump_vhdl_connections(std::ostream & out, std::map<std::string, std::string, LESS_C_STRING> & types);
+                                            std::map<std::string, std::string, LESS_C_STRING> & signals);
+    void dump_vhdl_wires(std::ostream & out, GNL_GENERATOR * parent,
+                         std::map<std::string, std::string, LESS_C_STRING> & signals);
+    void dump_vhdl_wires_for_slice(std::ostream & out, GNL_GENERATOR * parent,
+                                   std::map<std::string, std::string, LESS_C_STRING> & signals);
     void dump_vhdl_port_section_for_wrapper(std::ostream & out);
+    void dump_vhdl_port_section_for_primitives(std::ostream & out);
+    void dump_vhdl_port_section_for_arrays(std::ostream & out);
     void dump_vhdl_generic_section_for_wrapper(std::ostream & out);
-    void dump_vhdl_parameter_mappings_for_wrapper(std::ostream & out);
-    void dump_vhdl_connections_for_wrapper(std::ostream & out);
+    void dump_vhdl_generic_section_for_primitives(std::ostream & out);
+    void dump_vhdl_generic_section_for_hetero_arrays(std::ostream & out);
+    /// Declares the types that the component of this subdesign needs, and answers `types` with their names added.
+    std::map<std::string, std::string, LESS_C_STRING>
+    dump_vhdl_array_type_declarations(std::ostream & out, std::map<std::string, std::string, LESS_C_STRING> types);
+    /// The components of an array's slices. Answers whether the array's own component is needed as well.
+    bool
+    dump_vhdl_component_section_for_hetero_arrays(std::ostream & out,
+                                                  std::map<std::string, std::string, LESS_C_STRING> & components,
+                                                  std::map<std::string, std::string, LESS_C_STRING> & types);
     /// The "library.package" entries of `get_vhdl_library`, each under itself, so that two packages of one library
-    /// stay two. Defined in writers/gnl_generator_vhdl_libraries.cpp, as the next.
+    /// stay two.
     std::map<std::string, std::string, LESS_C_STRING> get_vhdl_library_list();
     void add_to_vhdl_library_list(std::map<std::string, std::string, LESS_C_STRING> & list, std::string const & library,
                                   bool no_component_declarations);
+    /// @}
+
+    /// @name VHDL: statements
+    /// Defined in writers/gnl_generator_vhdl.cpp. These do nothing yet.
+    /// @{
+    void dump_vhdl_connections(std::ostream & out, std::map<std::string, std::string, LESS_C_STRING> & types);
+    void dump_vhdl_parameter_mappings_for_wrapper(std::ostream & out);
+    void dump_vhdl_connections_for_wrapper(std::ostream & out);
     /// @}
 
     /// @name QHDL
@@ -658,7 +683,10 @@ public:
     bool has_subdesign_as_not_supported() const { return m_state.subdesign_not_supported; }
     void set_has_subdesign_as_not_supported() { m_state.subdesign_not_supported = true; }
     bool has_no_vhdl_component_declarations() const { return m_state.no_vhdl_component_declarations; }
-    void set_use_no_vhdl_component_declarations() { m_state.no_vhdl_component_declarations = true; }
+    void set_use_no_vhdl_component_declarations(bool use_none = true)
+    {
+        m_state.no_vhdl_component_declarations = use_none;
+    }
     std::string const & get_vhdl_library() const { return m_state.vhdl_library; }
     void set_vhdl_library(std::string const & library, bool no_component);
     std::string const & get_special_primitive_library() const { return m_state.special_primitive_library; }

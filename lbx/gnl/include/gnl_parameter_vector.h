@@ -34,6 +34,7 @@ public:
     /// The value, 0 when none was assigned; posts `vector_not_assigned` and `vector_inherits`.
     MLIB_UINTEGER & get_value();
     MLIB_UINTEGER * get_default_value();
+    bool has_default_value() const { return m_default_vector != nullptr || m_default_small != -1; }
     int get_default_value_as_int() const;
     void set_default_value(int value);
     /// In bits; -1 while the width is not known yet.

@@ -468,11 +468,12 @@ public:
     int get_default_value() const override { return m_default_value; }
     void set_default_port_value(int value) { m_default_value = value; }
     std::string get_default_value_as_string(int width) const;
+    /// What a simulation of a VHDL design starts with; -1 for nothing.
     void set_initial_value(int value) { m_initial_value = value; }
     int get_initial_value() const { return m_initial_value; }
 
 private:
     bool m_use_verilog_reg = false;
     int m_default_value = -1;
-    int m_initial_value = 0;
+    int m_initial_value = -1; ///< of simulations, -1 for none
 };

@@ -1,31 +1,13 @@
 #include "gnl_generator.h"
 
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/writers/declared_ports.h"
 #include "lbx/gnl/writers/port_kinds.h"
 #include "lbx/gnl/writers/verilog_text.h"
 
 using namespace gnl_detail;
 
 namespace {
-
-/// The declared ports in the order of the module header.
-std::vector<GNL_PORT *> header_ports(GNL_GENERATOR & design)
-{
-    std::vector<GNL_PORT *> ports;
-    auto const add = [&](GNL_PORT & port) {
-        if (is_declared_port(port))
-            ports.push_back(&port);
-    };
-    if (design.has_sorted_port_list()) {
-        for (auto const & name : design.get_sorted_port_list())
-            if (auto * port = design.get_port_object(name))
-                add(*port);
-    } else {
-        for (GNL_PORT & port : design.registry().ports())
-            add(port);
-    }
-    return ports;
-}
 
 std::string_view direction_word(GNL_PORT const & port)
 {
@@ -66,7 +48,7 @@ void GNL_GENERATOR::dump_verilog_module_section(std::ostream & out)
     text_sink text(out);
     text << get_entity_name() << "\n\t( \n";
     list_separator list("", ",\n");
-    for (auto const * port : header_ports(*this))
+    for (auto const * port : declared_ports(*this))
         text << list << "\t" << port->get_name();
     text << ") ";
 }

@@ -2,6 +2,7 @@
 
 #include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/writers/simulation_only_value.h"
 #include "lbx/gnl/writers/text_sink.h"
 
 using namespace gnl_detail;
@@ -108,17 +109,11 @@ private:
             m_text << static_cast<int>(digits.size()) * 4 << "'h" << digits;
         }
     }
-    /// A parameter object of the name knows the value better than the list does.
-    void assign_simulation_only(std::string const & name, std::string const & value)
+    void assign_simulation_only(std::string const & name, std::string const & listed)
     {
-        auto * parameter = m_instance.registry().find_parameter(name);
-        entry() << written_name(name) << " = ";
-        if (parameter != nullptr && parameter->is_integer_parameter())
-            m_text << static_cast<GNL_PARAMETER_INTEGER *>(parameter)->get_value(true);
-        else if (parameter != nullptr && parameter->is_string_parameter())
-            m_text << "\"" << static_cast<GNL_PARAMETER_STRING *>(parameter)->get_value(true) << "\"";
-        else
-            m_text << "\"" << value << "\"";
+        auto const value = simulation_only_value_of(m_instance, name, listed);
+        std::string_view const quote = value.is_number ? "" : "\"";
+        entry() << written_name(name) << " = " << quote << value.text << quote;
     }
 
     /// A cell that stands for another one tells it which of its ports are connected.
