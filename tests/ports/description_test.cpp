@@ -206,7 +206,7 @@ TEST_F(PortDescription, OutputOfACellThatIsWrittenAsStatementsIsANodeInQhdl)
     });
     EXPECT_EQ(both_forms(cells.port("s"), top), "arr_s[]  arr_s[3..0]");
     EXPECT_EQ(described(cells.port("q"), top, true), "arr_q[1..0]");
-    EXPECT_EQ(described(cells[2].port("q"), top), "arr_2_q[]");
+    EXPECT_EQ(described(cells[2].port("q"), top), "arr2_q[]");
     cells.set_as_heterogeneous_array();
     EXPECT_EQ(described(cells.port("s"), top), "arr_s");
 }

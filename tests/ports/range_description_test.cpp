@@ -84,8 +84,8 @@ TEST_F(RangeDescription, OfANodeOfASlice)
     EXPECT_EQ(described(p, top), "arr3_p[]");
     cells[3].set_custom_subdesign_insert_mode();
     cells[3].set_use_custom_qhdl_output();
-    EXPECT_EQ(described(cells[3].port("q")[1], top), "arr_3_q[1..1]");
-    EXPECT_EQ(described(cells[3].port("q"), top), "arr_3_q[]");
+    EXPECT_EQ(described(cells[3].port("q")[1], top), "arr3_q[1..1]");
+    EXPECT_EQ(described(cells[3].port("q"), top), "arr3_q[]");
 }
 
 TEST_F(RangeDescription, OfAnOutputOfACellThatQhdlWritesAsStatements)

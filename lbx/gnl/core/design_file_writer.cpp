@@ -3,6 +3,7 @@
 #include "gnl_ofstream.h"
 #include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/driver_messages.h"
+#include "lbx/gnl/core/language_scope.h"
 #include "lbx/gnl/core/one_slice_widths.h"
 #include "lbx/gnl/core/output_file.h"
 #include "lbx/gnl/core/subdesign_names.h"
@@ -87,13 +88,7 @@ void GNL_GENERATOR::design_file_writer::write_to_shared_stream(std::ostream & st
 
 void GNL_GENERATOR::design_file_writer::write_side_file(int language)
 {
-    int const run_language = get_gen_language();
-    struct language_scope
-    {
-        int outer;
-        ~language_scope() { set_gen_language(outer); }
-    } const scope{run_language};
-    set_gen_language(language);
+    language_scope const scope(&set_gen_language, language, get_gen_language());
     std::string const ending(current_language_text().extension);
     std::string const path = beside_others(ending);
     GNL_OFSTREAM file;

@@ -3,8 +3,6 @@
 #include "gnl_generator.h"
 
 #include "lbx/gnl/core/case_folding.h"
-#include "lbx/gnl/core/element_registry.h"
-#include "lbx/gnl/writers/list_separator.h"
 
 using namespace gnl_detail;
 
@@ -49,16 +47,11 @@ void write_vhdl_wrapper(GNL_GENERATOR & wrapped, std::ostream & out)
 
 void write_qhdl_wrapper(GNL_GENERATOR & wrapped, std::ostream & out)
 {
-    auto const & name = wrapped.get_name();
-    out << "include \"" << name << ".inc\";\n\n";
+    out << "include \"" << wrapped.get_name() << ".inc\";\n\n";
     wrapped.dump_qhdl_subdesign_section(out);
-    out << "VARIABLE \n\tmg : " << name << " WITH (\n";
-    list_separator entries("", ", \n");
-    for (auto * parameter : wrapped.registry().declared_parameters())
-        if (parameter->is_used() && parameter->is_included_in_declaration())
-            out << entries << "\t\t" << parameter->get_name() << " = " << parameter->get_name();
-    out << ");\n";
+    wrapped.dump_qhdl_variables_section_for_subdesign_wrapper(out, true);
     wrapped.dump_qhdl_connections_for_subdesign_wrapper(out);
+    out << "\n"; // the line behind the body tells later runs whether the file is valid
 }
 
 } // namespace

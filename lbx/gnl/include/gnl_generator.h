@@ -532,14 +532,36 @@ public:
     /// @}
 
     /// @name QHDL
-    /// Defined in writers/gnl_generator_qhdl.cpp. These do nothing yet.
+    /// Declarations: writers/gnl_generator_qhdl_sections.cpp, writers/gnl_generator_qhdl_variables.cpp,
+    /// writers/gnl_generator_qhdl_with_clause.cpp. Connections: writers/gnl_generator_qhdl_connections.cpp,
+    /// writers/gnl_generator_qhdl_subdesign_connections.cpp, writers/gnl_generator_qhdl_array_connections.cpp. Wrappers:
+    /// writers/gnl_generator_qhdl_wrapper.cpp, writers/gnl_generator_qhdl_library_wrapper.cpp.
     /// @{
     void dump_qhdl_top_level_parameter_section(std::ostream & out);
     void dump_qhdl_subdesign_section(std::ostream & out);
     void dump_qhdl_variables_section(std::ostream & out);
+    /// The nodes through which the bidirectional ports of this subdesign are connected in the text of `parent`.
+    void dump_qhdl_bidirectional_wires(std::ostream & out, GNL_GENERATOR * parent);
+    /// The nodes that the slices of an array with custom output declare. Takes and answers whether "VARIABLE" has been
+    /// written. Posts `slice_out_of_range`.
+    bool dump_qhdl_custom_wires_for_heterogeneous_arrays(std::ostream & out, bool variable_written);
+    /// The parameters of a cell, on lines of their own or in one.
+    void dump_qhdl_parameter_section(std::ostream & out, bool in_variable);
+    /// One entry of that clause. Takes and answers whether an entry has been written.
+    bool dump_qhdl_parameter_assignment(std::ostream & out, GNL_PARAMETER * parameter, bool started, bool in_variable);
     void dump_qhdl_connections(std::ostream & out);
+    void generate_connections_with_subdesign(std::ostream & out, GNL_GENERATOR * parent);
+    /// What stands before the name of a port that has a node beside its instance: the instance name, the index of a
+    /// slice, and "_".
+    std::string get_qhdl_port_extension() const;
+    /// `used_only` leaves out the parameters that were given no value.
+    void dump_qhdl_variables_section_for_subdesign_wrapper(std::ostream & out, bool used_only = false);
     void dump_qhdl_connections_for_subdesign_wrapper(std::ostream & out);
+    /// Wraps a library cell into a file of the entity's name, unless there is one.
     void dump_qhdl_library_wrapper();
+    void dump_qhdl_initial_parameter_section(std::ostream & out);
+    void dump_qhdl_subdesign_section_for_wysiwyg(std::ostream & out);
+    void dump_qhdl_connections_for_wysiwyg_wrapper(std::ostream & out);
     /// @}
 
     /// Lists the used ports with their widths for a script. Defined in writers/gnl_generator_tcl.cpp.

@@ -6,19 +6,21 @@ using namespace gnl_detail;
 
 namespace {
 
-/// A bidir that is driven stands behind a node of its own, which is named without a subscript.
-void write_qhdl_prefix(text_sink & text, GNL_PORT_BIDIR const & port)
+/// A bidir of an instance that is driven stands behind a node of its own, which is named without a subscript. An array
+/// has one node for all slices.
+void describe_in_qhdl(text_sink & text, GNL_PORT_BIDIR & port, GNL_GENERATOR const * level, bool with_index)
 {
-    port_place const place(port);
-    text << port.get_parent_instance_name();
-    if (port.get_driver() || port.is_driven_by_constant()) {
-        if (place.is_slice())
-            text << place.slice_index();
-        text << "_";
-        return;
+    bool const is_node = has_bidir_node(port, level);
+    if (is_node) {
+        text << port.get_parent()->get_qhdl_port_extension();
+    } else if (port.get_parent() != level) {
+        text << port.get_parent_instance_name();
+        write_instance_subscript(text, port, false);
+        text << ".";
     }
-    write_instance_subscript(text, port, false);
-    text << ".";
+    text << port.get_source_name(false);
+    if (port.get_width() != 0)
+        write_qhdl_range(text, is_node ? port.get_width() : shown_width(port), with_index);
 }
 
 void describe_signal(text_sink & text, GNL_PORT_BIDIR & port, bool with_index)
@@ -54,13 +56,9 @@ void GNL_PORT_BIDIR::dump_port_description(std::ostream & out, GNL_GENERATOR * l
 void GNL_PORT_BIDIR::describe(description_writer & writer, GNL_GENERATOR * level, bool with_index, GNL_PORT *)
 {
     text_sink & text = writer.sink();
-    if (in_qhdl_style()) {
-        if (get_parent() != level)
-            write_qhdl_prefix(text, *this);
-        text << get_source_name(false);
-        if (get_width() != 0)
-            write_qhdl_range(text, shown_width(*this), with_index);
-    } else if (get_parent() != level)
+    if (in_qhdl_style())
+        describe_in_qhdl(text, *this, level, with_index);
+    else if (get_parent() != level)
         describe_signal(text, *this, with_index);
     else {
         text << get_source_name(false);

@@ -65,14 +65,15 @@ public:
             GNL_SUBCONCAT const run{element(first).port, element(first).high_index, element(last).low_index};
             if (run.high_index != position - 1)
                 hole(position - 1, run.high_index, position - run.high_index - 1);
-            bool const alone = last - first + 1 == m_concat.get_element_count() && !m_list.started();
+            bool const alone =
+                last - first + 1 == m_concat.get_element_count() && !m_list.started() && run.low_index == 0;
             separate();
             if (GNL_ELEMENT::is_verilog())
                 repeated(run, alone);
             else if (last > first)
                 slices(run, element(last));
             else
-                reference(*run.port, m_level);
+                listed(run, alone);
             position = run.low_index;
             first = last + 1;
         }
@@ -118,8 +119,7 @@ private:
         GNL_PORT * base = &port;
         while (base && base->is_range_port())
             base = static_cast<GNL_PORT_OUTPUT_RANGE *>(base)->get_range_driver();
-        bool const is_driven_bidir = base && base->is_bidir() && (base->get_driver() || base->is_driven_by_constant());
-        return base && !is_driven_bidir && !port_place(*base).has_output_signals_in_qhdl();
+        return base && !gnl_detail::has_bidir_node(*base, m_level) && !port_place(*base).has_output_signals_in_qhdl();
     }
 
     /// Bits `high` down to `low` have no driver. The message is posted when its place in the text is reached: only then
@@ -145,17 +145,33 @@ private:
 
     void separate() { m_writer.text(m_list.next()); }
 
+    static int times_of(GNL_SUBCONCAT const & run)
+    {
+        long long const bits = static_cast<long long>(run.high_index) - run.low_index + 1;
+        return saturated(bits / run.port->get_bus_width());
+    }
+
     /// Verilog repeats a port that is narrower than its bits. The repetition is a concatenation, which needs braces of
     /// its own unless it stands alone in the whole one.
     void repeated(GNL_SUBCONCAT const & run, bool alone)
     {
-        long long const bits = static_cast<long long>(run.high_index) - run.low_index + 1;
-        int const times = saturated(bits / run.port->get_bus_width());
+        int const times = times_of(run);
         if (times > 1)
             m_writer.text((alone ? "" : "{") + text_of(times) + "{");
         reference(*run.port, m_level);
         if (times > 1)
             m_writer.text(alone ? "}" : "}}");
+    }
+
+    /// The other languages have no repetition: a port that is narrower than its bits is listed as often as it fits. One
+    /// that is alone is repeated by whoever reads the whole.
+    void listed(GNL_SUBCONCAT const & run, bool alone)
+    {
+        reference(*run.port, m_level);
+        for (int i = alone ? 1 : times_of(run); i > 1; --i) {
+            separate();
+            reference(*run.port, m_level);
+        }
     }
 
     /// The same port of neighbouring slices, as seen from within one of them behind a subscript of the array.

@@ -8,16 +8,13 @@ namespace {
 /// An output of an instance, or a node of a cell that is written as statements.
 void write_qhdl_prefix(text_sink & text, GNL_PORT_OUTPUT const & port)
 {
-    port_place const place(port);
-    text << port.get_parent_instance_name();
-    if (!place.has_output_signals_in_qhdl()) {
-        write_instance_subscript(text, port, true);
-        text << ".";
+    if (port_place(port).has_output_signals_in_qhdl()) {
+        text << port.get_parent()->get_qhdl_port_extension();
         return;
     }
-    text << "_";
-    if (place.is_slice())
-        text << place.slice_index() << "_";
+    text << port.get_parent_instance_name();
+    write_instance_subscript(text, port, true);
+    text << ".";
 }
 
 /// The width of the range behind an output's name in QHDL. An array of cells that are written as statements has one

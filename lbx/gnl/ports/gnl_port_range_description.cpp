@@ -70,29 +70,12 @@ void write_vhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const *
     text << ")";
 }
 
-/// Nodes stand beside an instance; each slice has its own.
-void write_node_prefix(text_sink & text, port_place const & place, bool of_bidir)
-{
-    if (!of_bidir)
-        text << "_";
-    if (place.is_slice())
-        text << place.slice_index() << "_";
-    else if (of_bidir)
-        text << "_";
-}
-
 /// How QHDL reaches a port of a subdesign: its instance and the slices that the bits lie in.
-void write_instance(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)
+void write_instance(text_sink & text, shown_bits const & bits)
 {
     GNL_PORT & port = *bits.range->get_range_driver();
-    bool const driven_here =
-        port.is_bidir() && port.get_connection_level() == level && (port.get_driver() || port.is_driven_by_constant());
     port_place const place(*bits.range);
     text << port.get_parent_instance_name();
-    if (driven_here || port_place(port).has_output_signals_in_qhdl()) {
-        write_node_prefix(text, place, driven_here);
-        return;
-    }
     if (place.is_slice())
         text << "[" << place.slice_index() << "]";
     else if (int const width = port.get_original_width(); place.slices() > 0 && width < 1)
@@ -105,13 +88,19 @@ void write_instance(text_sink & text, shown_bits const & bits, GNL_GENERATOR con
 void write_qhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)
 {
     GNL_PORT & port = *bits.range->get_range_driver();
-    if (port.get_parent() != level)
-        write_instance(text, bits, level);
+    // A node stands beside the instance, and one of an array holds the bits of all slices.
+    bool const is_node = port_place(port).has_output_signals_in_qhdl() || gnl_detail::has_bidir_node(port, level);
+    if (port.get_parent() != level) {
+        if (is_node)
+            text << port.get_parent()->get_qhdl_port_extension();
+        else
+            write_instance(text, bits);
+    }
     text << port.get_source_name(bits.range->get_parent() != level);
     if (port.get_width() == 0)
         return;
     int const width = port.get_original_width();
-    bool const within_slice = port_place(*bits.range).slices() > 0 && !port_place(port).has_output_signals_in_qhdl();
+    bool const within_slice = port_place(*bits.range).slices() > 0 && !is_node;
     if (!within_slice)
         text << "[" << bits.high << ".." << bits.low << "]";
     else if (width > 0)

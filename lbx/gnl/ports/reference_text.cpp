@@ -31,6 +31,12 @@ bool port_place::has_output_signals_in_qhdl() const
     return m_parent && m_parent->uses_custom_subdesign_insert_mode() && m_parent->uses_custom_qhdl_output();
 }
 
+bool has_bidir_node(GNL_PORT const & port, GNL_GENERATOR const * level)
+{
+    return port.is_bidir() && port.get_parent() != level && port.get_connection_level() == level
+           && (port.get_driver() || port.is_driven_by_constant());
+}
+
 void write_instance_subscript(text_sink & text, GNL_PORT const & port, bool range_if_uneven)
 {
     port_place const place(port);

@@ -42,6 +42,10 @@ private:
     GNL_GENERATOR * m_parent;
 };
 
+/// Whether the bidirectional port of an instance is connected through a node beside it in the text of `level`: what
+/// drives it in the body of `level` drives that node. A driver from within its own design doesn't count there.
+bool has_bidir_node(GNL_PORT const & port, GNL_GENERATOR const * level);
+
 /// The subscript of an instance in QHDL: "[]" for a whole array, its range where slices differ and `range_if_uneven`
 /// asks for it, the index of a slice.
 void write_instance_subscript(text_sink & text, GNL_PORT const & port, bool range_if_uneven);

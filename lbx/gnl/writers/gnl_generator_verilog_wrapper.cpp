@@ -4,19 +4,13 @@
 #include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/port_kinds.h"
 #include "lbx/gnl/writers/verilog_text.h"
-
-#include <algorithm>
+#include "lbx/gnl/writers/wrapper_ports.h"
 
 // The wrapper: a thin module around a library unit that has the same ports.
 
 using namespace gnl_detail;
 
 namespace {
-
-bool is_driven(GNL_PORT & port)
-{
-    return port.check_port_has_valid_driver() || port.check_port_is_driven_by_constant();
-}
 
 class wrapper_ports
 {
@@ -31,7 +25,7 @@ public:
     {
         std::vector<GNL_PORT *> ports;
         for (GNL_PORT & port : m_ports)
-            if (is_pin(port) && port.is_used() && (!port.is_input() || is_driven_somewhere(port)))
+            if (is_pin(port) && port.is_used() && (!port.is_input() || is_driven_somewhere(port, m_slices)))
                 ports.push_back(&port);
         return ports;
     }
@@ -41,20 +35,13 @@ public:
         std::vector<GNL_PORT *> ports;
         for (GNL_PORT & port : m_ports)
             if (port.is_output() || (port.is_bidir() && port.is_used())
-                || (port.is_input() && is_driven_somewhere(port)))
+                || (port.is_input() && is_driven_somewhere(port, m_slices)))
                 ports.push_back(&port);
         return ports;
     }
 
 private:
     static bool is_pin(GNL_PORT const & port) { return port.is_input() || port.is_output() || port.is_bidir(); }
-    /// An array's input may be driven slice by slice.
-    bool is_driven_somewhere(GNL_PORT & port) const
-    {
-        return is_driven(port) || std::ranges::any_of(m_slices.ports(port.get_name()), [](GNL_PORT * of_slice) {
-                   return is_driven(*of_slice);
-               });
-    }
 
     array_slices m_slices;
     element_walk<GNL_PORT> m_ports;

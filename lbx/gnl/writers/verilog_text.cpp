@@ -2,7 +2,6 @@
 
 #include "lbx/gnl/core/element_registry.h"
 #include "lbx/gnl/writers/port_kinds.h"
-#include "lbx/gnl/writers/writer_messages.h"
 
 namespace gnl_detail {
 
@@ -21,15 +20,6 @@ void write_port_options(text_sink & text, GNL_PORT & port)
 {
     if (port.has_qelvar_internal_options())
         port.dump_qelvar_internal_options(text.stream());
-}
-
-bool check_driver(GNL_GENERATOR & level, GNL_PORT & port, GNL_PORT & driver)
-{
-    // Most drivers are the design's own, and then no name has to be looked up.
-    if (driver.get_parent() == &level || level.is_child_of_subdesign(&driver))
-        return true;
-    report<writer_message::invalid_driver>(level, port.get_hierarchical_name(), driver.get_hierarchical_name());
-    return false;
 }
 
 void write_driver(text_sink & text, GNL_GENERATOR & level, GNL_PORT & driver, GNL_PORT & target)

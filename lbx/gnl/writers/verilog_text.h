@@ -2,6 +2,7 @@
 
 #include "gnl_generator.h"
 
+#include "lbx/gnl/writers/driver_check.h"
 #include "lbx/gnl/writers/text_sink.h"
 
 #include <string_view>
@@ -60,9 +61,6 @@ text_sink & write_default(text_sink & text, GNL_PORT & port);
 text_sink & declare_net(text_sink & text, std::string_view opener, bus_range range, GNL_PORT & port);
 /// The options that stand behind the name in a declaration.
 void write_port_options(text_sink & text, GNL_PORT & port);
-
-/// Whether `driver` can be read in the text of `level`; reports it for `port` if not.
-bool check_driver(GNL_GENERATOR & level, GNL_PORT & port, GNL_PORT & driver);
 
 /// What the statement of `level` shows of `driver` when it drives `target`.
 void write_driver(text_sink & text, GNL_GENERATOR & level, GNL_PORT & driver, GNL_PORT & target);
