@@ -72,7 +72,7 @@ void element_registry::slot_table::grow(std::vector<entry> const & entries)
         if (which != none && which != removed)
             kept.push_back(which);
     std::size_t size = 8;
-    while (size < 3 * (kept.size() + 1))
+    while (2 * size < 5 * (kept.size() + 1)) // twice as many when all are kept
         size *= 2;
     m_places.assign(size, none);
     m_taken = 0;
@@ -243,6 +243,13 @@ void element_registry::file_again(GNL_ELEMENT & element)
     if (known.kind == element_kind::logic || known.kind == element_kind::range)
         seldom().made_renamed = true;
     add_entry(element);
+}
+
+void element_registry::make_late_names()
+{
+    for (; m_named_end < m_entries.size(); ++m_named_end)
+        if (GNL_ELEMENT const * const element = m_entries[m_named_end].element)
+            static_cast<void>(element->get_name());
 }
 
 void element_registry::wait_for_name(slot which)

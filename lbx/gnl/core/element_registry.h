@@ -86,6 +86,8 @@ public:
     void file_option(GNL_PARAMETER & option);
     /// Something in the element's key has changed.
     void file_again(GNL_ELEMENT & element);
+    /// Makes the names that are late; looks at each element once over all calls.
+    void make_late_names();
     /// Forgets the element wherever it is; never touches an entry that is another element's.
     void forget(GNL_ELEMENT & element);
     bool knows(GNL_ELEMENT const & element) const;
@@ -271,6 +273,7 @@ private:
     {
         file_pending();
         std::vector<TYPE *> found;
+        found.reserve(m_filed_counts[static_cast<std::size_t>(kind)]);
         for (entry const & held : m_entries)
             if (held.kind == kind && held.state == entry_state::filed)
                 found.push_back(static_cast<TYPE *>(held.element));
@@ -282,6 +285,7 @@ private:
     std::vector<entry> m_entries; ///< by slot
     slot m_filed_end = 0;         ///< the first slot that has not been looked at
     slot m_count = 0;             ///< of all that is held
+    slot m_named_end = 0;         ///< no name before this slot is late
     bool m_closing = false;
     slot_table m_table;
     std::array<slot, element_kind_count> m_filed_counts{};                ///< by kind

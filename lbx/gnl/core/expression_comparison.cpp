@@ -1,6 +1,7 @@
 #include "lbx/gnl/core/expression_order.h"
 
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/ports/operator_keys.h"
 
 #include <algorithm>
 #include <charconv>
@@ -8,22 +9,6 @@
 namespace gnl_detail {
 
 namespace {
-
-std::string_view operation_word(int operation)
-{
-    switch (operation) {
-    case GNL_PORT_LOGIC::not_operation:
-        return "NOT";
-    case GNL_PORT_LOGIC::and_operation:
-        return "AND";
-    case GNL_PORT_LOGIC::or_operation:
-        return "OR";
-    case GNL_PORT_LOGIC::xor_operation:
-        return "XOR";
-    default:
-        return "UNKNOWN";
-    }
-}
 
 int folded_byte(std::string_view text, std::size_t at)
 {
@@ -140,7 +125,7 @@ int expression_comparison::compare_keys(question const & asked)
 int expression_comparison::open(GNL_PORT_LOGIC const & a, GNL_PORT_LOGIC const & b, bool inside)
 {
     if (a.get_operation() != b.get_operation())
-        return compare_texts(operation_word(a.get_operation()), operation_word(b.get_operation()), true);
+        return compare_texts(operation_key_word(a.get_operation()), operation_key_word(b.get_operation()), true);
     bool const has_second = a.get_second_operand() || b.get_second_operand();
     if (has_second)
         ask_operands(a.get_second_operand(), b.get_second_operand(), inside);
@@ -205,7 +190,7 @@ unsigned leading_kinds(GNL_PORT const & made)
 {
     unsigned operation = 0;
     if (made.is_logic()) {
-        auto const word = operation_word(as_logic(made).get_operation());
+        auto const word = operation_key_word(as_logic(made).get_operation());
         operation = word == "AND" ? 0U : word == "NOT" ? 1U : word == "OR" ? 2U : word == "XOR" ? 4U : 3U;
     }
     auto const * range = leading_range(made);
@@ -304,7 +289,7 @@ private:
             auto const & logic = as_logic(port);
             push_operand(logic.get_second_operand(), ";");
             push_operand(logic.get_first_operand(), "");
-            return take("LGC;") && take(operation_word(logic.get_operation())) && take(";");
+            return take("LGC;") && take(operation_key_word(logic.get_operation())) && take(";");
         }
         if (!port.is_range_port())
             return take(port.generate_key());

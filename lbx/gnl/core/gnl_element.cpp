@@ -9,6 +9,7 @@
 #include "lbx/gnl/core/element_registry.h"
 
 #include <algorithm>
+#include <vector>
 
 using gnl_detail::folded;
 
@@ -23,7 +24,7 @@ bool LESS_C_STRING::operator()(std::string_view a, std::string_view b) const noe
 
 GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name)
     : m_parent(parent)
-    , m_name(name)
+    , m_name(std::make_unique<std::string>(name))
 {
     if (static_cast<GNL_ELEMENT *>(m_parent) == this)
         m_parent = nullptr; // reported when the generator exists
@@ -33,7 +34,7 @@ GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name)
 
 GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name, parameter_tag)
     : m_parent(parent)
-    , m_name(name)
+    , m_name(std::make_unique<std::string>(name))
 {
     if (!m_parent)
         return;
@@ -45,9 +46,17 @@ GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name, param
         m_parent->insert(this, "");
 }
 
+GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::uint32_t number)
+    : m_parent(parent)
+    , m_late_number(number)
+{
+    if (m_parent)
+        m_parent->insert(this, "");
+}
+
 GNL_ELEMENT::GNL_ELEMENT(GNL_ELEMENT const & other)
     : m_parent(other.m_parent)
-    , m_name(other.m_name)
+    , m_name(std::make_unique<std::string>(other.get_name()))
 {
 }
 
@@ -55,7 +64,7 @@ GNL_ELEMENT & GNL_ELEMENT::operator=(GNL_ELEMENT const & other)
 {
     if (m_slot == unregistered) {
         m_parent = other.m_parent;
-        m_name = other.m_name;
+        set_name(other.get_name());
     }
     return *this;
 }
@@ -75,17 +84,51 @@ GNL_ELEMENT::~GNL_ELEMENT()
 
 std::string GNL_ELEMENT::generate_key() const
 {
-    return m_name;
+    return get_name();
+}
+
+void GNL_ELEMENT::set_name(std::string const & name)
+{
+    m_name = std::make_unique<std::string>(name);
+    m_late_number = 0;
+}
+
+std::string GNL_ELEMENT::make_late_name(std::uint32_t) const
+{
+    return {};
+}
+
+/// Names of nested expressions hold one another, as deep as their author nested them.
+std::string const & GNL_ELEMENT::late_name() const
+{
+    std::vector<GNL_ELEMENT const *> waiting{this};
+    while (!waiting.empty()) {
+        GNL_ELEMENT const & next = *waiting.back();
+        GNL_ELEMENT const * const source = next.m_name ? nullptr : next.late_name_source();
+        if (source && source->has_late_name()) {
+            waiting.push_back(source);
+            continue;
+        }
+        waiting.pop_back();
+        if (!next.m_name)
+            next.m_name = std::make_unique<std::string>(next.has_late_name() ? next.make_late_name(next.m_late_number)
+                                                                             : std::string());
+        next.m_late_number = 0;
+    }
+    return *m_name;
 }
 
 std::string GNL_ELEMENT::get_hierarchical_name() const
 {
-    return m_parent ? m_parent->get_hierarchical_name() + "|" + m_name : m_name;
+    return m_parent ? m_parent->get_hierarchical_name() + "|" + get_name() : get_name();
 }
 
 void GNL_ELEMENT::change_name(std::string const & name)
 {
-    m_name = name;
+    // Names that hold this one keep what it was when they were given. They stand here or, on a subdesign's port, above.
+    for (GNL_GENERATOR * at = m_parent; at && is_port(); at = at == m_parent ? m_parent->get_parent() : nullptr)
+        at->registry().make_late_names();
+    set_name(name);
     re_register();
 }
 

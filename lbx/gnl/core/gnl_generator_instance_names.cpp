@@ -44,14 +44,20 @@ int GNL_GENERATOR::get_wire_counter()
 
 std::string GNL_GENERATOR::generate_wire_name(std::string const & prefix, std::string const & suffix)
 {
-    std::string const number = convert_int_to_string(get_top_level_parent()->get_wire_counter());
+    return numbered_wire_name(prefix, suffix, static_cast<std::uint32_t>(get_top_level_parent()->get_wire_counter()));
+}
+
+std::string GNL_GENERATOR::numbered_wire_name(std::string const & prefix, std::string const & suffix,
+                                              std::uint32_t number)
+{
+    std::string const digits = convert_int_to_string(static_cast<int>(number));
     std::string name = "w";
     if (!prefix.empty())
-        name += "_" + prefix;
+        name.append("_").append(prefix);
     if (!prefix.empty() && !suffix.empty())
-        name += "_" + suffix;
-    name += number + "w";
-    return name.size() > longest_wire_name ? "w" + number + "w" : name;
+        name.append("_").append(suffix);
+    name.append(digits).append("w");
+    return name.size() > longest_wire_name ? "w" + digits + "w" : name;
 }
 
 std::string GNL_GENERATOR::generate_loop_name()

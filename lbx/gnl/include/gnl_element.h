@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -41,7 +42,7 @@ public:
     /// Unregisters the element.
     virtual ~GNL_ELEMENT();
 
-    std::string const & get_name() const { return m_name; }
+    std::string const & get_name() const { return m_name ? *m_name : late_name(); }
     /// Renames the element and files it under its new key.
     void change_name(std::string const & name);
     /// Files the element anew, after something in its key has changed.
@@ -70,12 +71,20 @@ protected:
     {
     };
     GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name, parameter_tag);
+    /// For expressions and ranges, which are many and whose names few ask for: the name is made from `number` when it
+    /// is first needed. With 0 there is none.
+    GNL_ELEMENT(GNL_GENERATOR * parent, std::uint32_t number);
     /// Takes parent and name and does not register: a copy is in no registry.
     GNL_ELEMENT(GNL_ELEMENT const & other);
     /// Takes parent and name, except on a registered element, which stays what and where it is.
     GNL_ELEMENT & operator=(GNL_ELEMENT const & other);
 
-    void set_name(std::string const & name) { m_name = name; }
+    void set_name(std::string const & name);
+    bool has_late_name() const { return m_late_number != 0; }
+    /// The name that `number` stands for; that of `late_name_source` is there already.
+    virtual std::string make_late_name(std::uint32_t number) const;
+    /// Whose name is part of this one's; null for nobody. Not owned.
+    virtual GNL_ELEMENT const * late_name_source() const { return nullptr; }
     static void set_gen_language(int language) { m_language = language; }
 
     static int m_language; ///< process-wide generation language, a GNL_LANGUAGE
@@ -87,7 +96,10 @@ private:
     static constexpr std::uint32_t unregistered = 0xffffffffU;
     static constexpr std::uint32_t refused = 0xfffffffeU; ///< the parent was told, and did not take the element
 
-    GNL_GENERATOR * m_parent; ///< not owned
-    std::string m_name;
-    std::uint32_t m_slot = unregistered; ///< place in the parent's registry, for constant-time removal
+    std::string const & late_name() const;
+
+    GNL_GENERATOR * m_parent;                    ///< not owned
+    mutable std::unique_ptr<std::string> m_name; ///< null while it is late
+    std::uint32_t m_slot = unregistered;         ///< place in the parent's registry, for constant-time removal
+    mutable std::uint32_t m_late_number = 0;     ///< of a late name; 0 if it is not late
 };

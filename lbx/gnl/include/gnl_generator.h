@@ -397,6 +397,8 @@ public:
     int generate_instance_id();
     std::string generate_instance_name(std::string const & base);
     std::string generate_wire_name(std::string const & prefix, std::string const & suffix);
+    /// The name that `generate_wire_name` makes with this number.
+    static std::string numbered_wire_name(std::string const & prefix, std::string const & suffix, std::uint32_t number);
     int get_wire_counter();
     std::string generate_loop_name();
     bool check_instance_name_collision(std::string const & text);
@@ -524,11 +526,25 @@ public:
     /// @}
 
     /// @name VHDL: statements
-    /// Defined in writers/gnl_generator_vhdl.cpp. These do nothing yet.
+    /// Of the design: writers/gnl_generator_vhdl_connections.cpp. Of its subdesigns: what feeds them
+    /// writers/gnl_generator_vhdl_feeds.cpp, the instances writers/gnl_generator_vhdl_instances.cpp, their values
+    /// writers/gnl_generator_vhdl_generic_map.cpp. Of a wrapper: writers/gnl_generator_vhdl_wrapper.cpp. `signals` are
+    /// those that the declarations have filled in.
     /// @{
-    void dump_vhdl_connections(std::ostream & out, std::map<std::string, std::string, LESS_C_STRING> & types);
+    void dump_vhdl_connections(std::ostream & out, std::map<std::string, std::string, LESS_C_STRING> & signals);
+    /// What feeds this subdesign in the text of `parent`, and its instance or instances.
+    void dump_vhdl_subdesign_connection(GNL_GENERATOR * parent, std::ostream & out,
+                                        std::map<std::string, std::string, LESS_C_STRING> & signals);
+    /// What feeds this slice. `in_loop` says that the array stands as one loop of instances: then nothing but the
+    /// array itself has inputs, and only the expressions on the slice's outputs are written.
+    void dump_vhdl_for_loop_for_slices(std::ostream & out, GNL_GENERATOR * parent, bool in_loop,
+                                       std::map<std::string, std::string, LESS_C_STRING> & signals);
     void dump_vhdl_parameter_mappings_for_wrapper(std::ostream & out);
     void dump_vhdl_connections_for_wrapper(std::ostream & out);
+    /// "(0)" behind the name of `port`, if that is a vector of one element and `driver`, as `parent` reads it, a bit.
+    void dump_vhdl_zero_index(std::ostream & out, GNL_PORT * port, GNL_PORT * driver, GNL_GENERATOR * parent);
+    /// The VHDL text of the constant that drives a port, "" without one.
+    std::string vhdl_constant_text(GNL_PORT & port) const;
     /// @}
 
     /// @name QHDL

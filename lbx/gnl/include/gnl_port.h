@@ -165,7 +165,7 @@ public:
     /// Defined in ports/gnl_port.cpp, the comparisons in ports/gnl_port_comparison.cpp.
     /// @{
     GNL_PORT * get_driver() const { return m_driver; }
-    MLIB_UINTEGER * constant_driving_value_as_mlib_int() const { return m_constant_value.get(); }
+    MLIB_UINTEGER * constant_driving_value_as_mlib_int() const { return m_extras ? m_extras->constant.get() : nullptr; }
     /// The low 32 bits of the constant, 0 without one.
     unsigned constant_driving_value_as_int() const;
     GNL_GENERATOR * get_connection_level() const { return m_connection_level; }
@@ -252,7 +252,7 @@ public:
     /// @{
     void set_qelvar_internal_option(std::string const & setting);
     void dump_qelvar_internal_options(std::ostream & out) const;
-    bool has_qelvar_internal_options() const { return m_internal_options && !m_internal_options->empty(); }
+    bool has_qelvar_internal_options() const { return m_extras && !m_extras->internal_options.empty(); }
     /// @}
 
     /// @name Names
@@ -270,6 +270,11 @@ public:
     GNL_PORT & operator=(GNL_GENERATOR & generator) = delete;
 
 protected:
+    /// The number of a name that is made when it is needed; 0 without a parent to count it.
+    static std::uint32_t late_name_number(GNL_GENERATOR * parent);
+    /// An expression or a range of `width` bits.
+    GNL_PORT(GNL_GENERATOR * parent, std::uint32_t late_number, int width);
+
     /// Writes the reference of one port that holds no others, or schedules its pieces on `writer`, so that expressions
     /// of any depth are written without recursion.
     virtual void describe(gnl_detail::description_writer & writer, GNL_GENERATOR * level, bool with_index,
@@ -283,12 +288,20 @@ protected:
     /// Sets the width of an object that the operators make.
     void set_made_width(int width) { m_width = m_original_width = width; }
 
-    GNL_PORT * m_driver = nullptr; ///< not owned
-    std::unique_ptr<MLIB_UINTEGER> m_constant_value;
-    GNL_GENERATOR * m_connection_level = nullptr;                 ///< not owned
-    std::unique_ptr<std::vector<std::string>> m_internal_options; ///< null while there are none
-    int m_width;                                                  ///< of the whole array, 0 for a scalar
-    int m_original_width;                                         ///< declared width of one slice
+    /// What few ports have; a design has ports by the million.
+    struct extras
+    {
+        std::unique_ptr<MLIB_UINTEGER> constant;
+        std::vector<std::string> internal_options;
+    };
+    extras & made_extras();
+    void set_constant(std::unique_ptr<MLIB_UINTEGER> constant);
+
+    GNL_PORT * m_driver = nullptr;                ///< not owned
+    std::unique_ptr<extras> m_extras;             ///< null while there are none
+    GNL_GENERATOR * m_connection_level = nullptr; ///< not owned
+    int m_width;                                  ///< of the whole array, 0 for a scalar
+    int m_original_width;                         ///< declared width of one slice
     int m_width_2d;
     int m_driver_count = 0;
     bool m_driven_by_constant : 1 = false;

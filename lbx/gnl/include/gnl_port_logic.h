@@ -41,6 +41,8 @@ protected:
                   GNL_PORT * target) override;
 
 private:
+    std::string make_late_name(std::uint32_t number) const override;
+    GNL_ELEMENT const * late_name_source() const override { return m_first_operand; }
     void replace_operand(GNL_PORT *& operand, GNL_PORT * port);
     /// An operand that is an expression and must be settled before this one; null if there is none.
     GNL_PORT_LOGIC * unsettled_operand() const;

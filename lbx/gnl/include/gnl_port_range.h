@@ -24,7 +24,7 @@ public:
 
     /// What the bits are selected from; null after a range that could not be made. Not owned.
     GNL_PORT * get_range_driver() const { return m_range_driver; }
-    void replace_range_driver(GNL_PORT * driver) { m_range_driver = driver; }
+    void replace_range_driver(GNL_PORT * driver);
     int get_high_index() const { return m_high_index; }
     int get_low_index() const { return m_low_index; }
     /// The port on which `range` was called, part of the key. It is not what the bits are selected from where a wire
@@ -48,8 +48,11 @@ protected:
                   GNL_PORT * target) override;
 
 private:
-    GNL_PORT * m_range_driver;              ///< not owned
-    GNL_GENERATOR * m_made_level = nullptr; ///< not owned
+    std::string make_late_name(std::uint32_t number) const override;
+    GNL_ELEMENT const * late_name_source() const override { return m_range_driver; }
+
     int m_high_index;
     int m_low_index;
+    GNL_PORT * m_range_driver;              ///< not owned
+    GNL_GENERATOR * m_made_level = nullptr; ///< not owned
 };

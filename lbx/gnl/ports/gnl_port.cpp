@@ -20,13 +20,18 @@ GNL_PORT::GNL_PORT(GNL_GENERATOR * parent, std::string const & name, int width, 
 {
 }
 
+GNL_PORT::GNL_PORT(GNL_GENERATOR * parent, std::uint32_t late_number, int width)
+    : GNL_ELEMENT(parent, late_number)
+    , m_width(width)
+    , m_original_width(width)
+    , m_width_2d(0)
+{
+}
+
 GNL_PORT::GNL_PORT(GNL_PORT const & other)
     : GNL_ELEMENT(other)
     , m_driver(other.m_driver)
-    , m_constant_value(other.m_constant_value ? std::make_unique<MLIB_UINTEGER>(*other.m_constant_value) : nullptr)
     , m_connection_level(other.m_connection_level)
-    , m_internal_options(
-          other.m_internal_options ? std::make_unique<std::vector<std::string>>(*other.m_internal_options) : nullptr)
     , m_width(other.m_width)
     , m_original_width(other.m_original_width)
     , m_width_2d(other.m_width_2d)
@@ -41,9 +46,26 @@ GNL_PORT::GNL_PORT(GNL_PORT const & other)
     , m_use_parent_source_name(other.m_use_parent_source_name)
     , m_driver_removal_done(other.m_driver_removal_done)
 {
+    if (auto const * const constant = other.constant_driving_value_as_mlib_int())
+        set_constant(std::make_unique<MLIB_UINTEGER>(*constant));
+    if (other.has_qelvar_internal_options())
+        made_extras().internal_options = other.m_extras->internal_options;
 }
 
 GNL_PORT::~GNL_PORT() = default;
+
+GNL_PORT::extras & GNL_PORT::made_extras()
+{
+    if (!m_extras)
+        m_extras = std::make_unique<extras>();
+    return *m_extras;
+}
+
+void GNL_PORT::set_constant(std::unique_ptr<MLIB_UINTEGER> constant)
+{
+    if (constant || m_extras)
+        made_extras().constant = std::move(constant);
+}
 
 std::string GNL_PORT::generate_key_base(std::string const & name)
 {
@@ -117,7 +139,7 @@ void GNL_PORT::remove_driver()
 
 void GNL_PORT::remove_constant_driver()
 {
-    m_constant_value.reset();
+    set_constant(nullptr);
     m_used = false;
     m_connection_level = nullptr;
 }
@@ -129,7 +151,7 @@ void GNL_PORT::replace_driver(GNL_PORT * driver)
     m_driver = driver;
     if (driver)
         driver->set_port_is_a_driver();
-    m_constant_value.reset();
+    set_constant(nullptr);
 }
 
 namespace {
@@ -148,7 +170,7 @@ void GNL_PORT::replace_driver(int value)
 {
     auto constant = constant_of_width(get_width(), value);
     replace_driver(static_cast<GNL_PORT *>(nullptr));
-    m_constant_value = std::move(constant);
+    set_constant(std::move(constant));
     m_driven_by_constant = true;
 }
 
@@ -156,7 +178,7 @@ void GNL_PORT::replace_driver(MLIB_UINTEGER & value)
 {
     auto constant = constant_of_width(get_width(), value);
     replace_driver(static_cast<GNL_PORT *>(nullptr));
-    m_constant_value = std::move(constant);
+    set_constant(std::move(constant));
     m_driven_by_constant = true;
 }
 
@@ -209,12 +231,14 @@ bool GNL_PORT::check_if_driven_at_bits(int low, int high)
 
 unsigned GNL_PORT::constant_driving_value_as_int() const
 {
-    return m_constant_value ? m_constant_value->uint() : 0;
+    auto const * const constant = constant_driving_value_as_mlib_int();
+    return constant ? constant->uint() : 0;
 }
 
 std::string GNL_PORT::constant_driving_value()
 {
-    return m_constant_value ? m_constant_value->as_bin_string() : std::string();
+    auto const * const constant = constant_driving_value_as_mlib_int();
+    return constant ? constant->as_bin_string() : std::string();
 }
 
 std::string GNL_PORT::constant_driving_value(int index)

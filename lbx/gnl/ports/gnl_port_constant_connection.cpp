@@ -50,6 +50,6 @@ GNL_PORT & GNL_PORT::operator=(int value)
 GNL_PORT & GNL_PORT::operator=(MLIB_UINTEGER & value)
 {
     if (take_constant(*this, value))
-        m_constant_value->set_bitwidth(m_width);
+        m_extras->constant->set_bitwidth(m_width);
     return *this;
 }

@@ -44,12 +44,19 @@ int width_over(GNL_PORT * first, GNL_PORT * second)
 } // namespace
 
 GNL_PORT_LOGIC::GNL_PORT_LOGIC(GNL_GENERATOR * parent, int operation, GNL_PORT * first, GNL_PORT * second)
-    : GNL_PORT(parent, get_wire_name_from_parent(parent, "lg", first ? first->get_name() : std::string()),
-               width_over(first, second))
+    : GNL_PORT(parent, late_name_number(parent), width_over(first, second))
     , m_operation(operation)
     , m_first_operand(first)
     , m_second_operand(second)
 {
+    if (!parent)
+        set_name(get_wire_name_from_parent(nullptr, "lg", first ? first->get_name() : std::string()));
+}
+
+std::string GNL_PORT_LOGIC::make_late_name(std::uint32_t number) const
+{
+    return GNL_GENERATOR::numbered_wire_name("lg", m_first_operand ? m_first_operand->get_name() : std::string(),
+                                             number);
 }
 
 std::string GNL_PORT_LOGIC::generate_key_base(std::string const & operation, std::string const & first,
@@ -86,6 +93,7 @@ void GNL_PORT_LOGIC::replace_operand(GNL_PORT *& operand, GNL_PORT * port)
 
 void GNL_PORT_LOGIC::replace_first_operand(GNL_PORT * port)
 {
+    static_cast<void>(get_name()); // which holds that of the first one
     replace_operand(m_first_operand, port);
 }
 

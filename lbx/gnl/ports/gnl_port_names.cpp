@@ -34,6 +34,11 @@ std::string GNL_PORT::fix_wire_name(GNL_GENERATOR * parent, std::string const & 
     return fixed;
 }
 
+std::uint32_t GNL_PORT::late_name_number(GNL_GENERATOR * parent)
+{
+    return parent ? static_cast<std::uint32_t>(parent->get_top_level_parent()->get_wire_counter()) : 0;
+}
+
 std::string GNL_PORT::get_wire_name_from_parent(GNL_GENERATOR * parent, std::string const & first,
                                                 std::string const & second)
 {

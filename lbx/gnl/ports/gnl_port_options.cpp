@@ -26,9 +26,7 @@ void GNL_PORT::set_qelvar_internal_option(std::string const & setting)
         parent->set_qelvar_internal_option("{-to " + get_name() + "} " + setting);
         return;
     }
-    if (!m_internal_options)
-        m_internal_options = std::make_unique<std::vector<std::string>>();
-    m_internal_options->push_back(setting);
+    made_extras().internal_options.push_back(setting);
 }
 
 void GNL_PORT::dump_qelvar_internal_options(std::ostream & out) const
@@ -38,9 +36,9 @@ void GNL_PORT::dump_qelvar_internal_options(std::ostream & out) const
     if (is_verilog())
         out << "/* synthesis QELVAR_ATTRIBUTE=\"";
     else if (is_vhdl())
-        out << "\t ATTRIBUTE QELVAR_ATTRIBUTE OF " << get_name() << " : SIGNAL IS \"";
+        out << "\t ATTRIBUTE QELVAR_ATTRIBUTE OF " << get_vhdl_name() << " : SIGNAL IS \"";
     char const * separator = "";
-    for (std::string const & setting : *m_internal_options)
+    for (std::string const & setting : m_extras->internal_options)
         if (!setting.empty()) {
             out << separator << setting;
             separator = ";";

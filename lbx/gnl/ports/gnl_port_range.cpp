@@ -21,11 +21,6 @@ int width_of(GNL_PORT const * driver, int high, int low)
     return driver ? saturated(static_cast<long long>(high) - low + 1) : 0;
 }
 
-std::string name_of(GNL_GENERATOR * parent, GNL_PORT const * driver)
-{
-    return driver ? GNL_PORT::get_wire_name_from_parent(parent, driver->get_name(), "range") : std::string();
-}
-
 /// The range that stands directly on something that is no range.
 GNL_PORT_OUTPUT_RANGE & innermost(GNL_PORT_OUTPUT_RANGE & range)
 {
@@ -224,14 +219,27 @@ bool GNL_PORT::check_range_for_arrays(int high, int low)
 }
 
 GNL_PORT_OUTPUT_RANGE::GNL_PORT_OUTPUT_RANGE(GNL_GENERATOR * parent, GNL_PORT * driver, int high, int low)
-    : GNL_PORT(parent, name_of(parent, driver), width_of(driver, high, low))
-    , m_range_driver(driver)
-    , m_made_level(driver ? driver->find_connection_level() : nullptr)
+    : GNL_PORT(parent, driver ? late_name_number(parent) : 0, width_of(driver, high, low))
     , m_high_index(high)
     , m_low_index(low)
+    , m_range_driver(driver)
+    , m_made_level(driver ? driver->find_connection_level() : nullptr)
 {
+    if (!parent && driver)
+        set_name(get_wire_name_from_parent(nullptr, driver->get_name(), "range"));
     if (parent && driver && high < low)
         report<port_message::range_order>(*parent, driver->get_hierarchical_name(), high, low);
+}
+
+std::string GNL_PORT_OUTPUT_RANGE::make_late_name(std::uint32_t number) const
+{
+    return GNL_GENERATOR::numbered_wire_name(m_range_driver->get_name(), "range", number);
+}
+
+void GNL_PORT_OUTPUT_RANGE::replace_range_driver(GNL_PORT * driver)
+{
+    static_cast<void>(get_name()); // which holds that of the first one
+    m_range_driver = driver;
 }
 
 std::string GNL_PORT_OUTPUT_RANGE::generate_key_base(std::string const & base, int high, int low)

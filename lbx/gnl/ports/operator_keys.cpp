@@ -7,9 +7,8 @@
 #include <vector>
 
 namespace gnl_detail {
-namespace {
 
-std::string_view word_of(int operation)
+std::string_view operation_key_word(int operation)
 {
     switch (operation) {
     case GNL_PORT_LOGIC::not_operation:
@@ -24,6 +23,8 @@ std::string_view word_of(int operation)
         return "UNKNOWN";
     }
 }
+
+namespace {
 
 /// What is still to be written, the next piece last; each kind of port puts its pieces there in reverse.
 class key_pieces
@@ -82,7 +83,7 @@ private:
             m_pieces.emplace_back(";" + first->get_parent_key());
             m_pieces.emplace_back(first);
         }
-        m_pieces.emplace_back("LGC;" + std::string(word_of(logic.get_operation())) + ";");
+        m_pieces.emplace_back("LGC;" + std::string(operation_key_word(logic.get_operation())) + ";");
     }
 
     std::vector<std::variant<std::string, GNL_PORT const *>> m_pieces;
