@@ -50,12 +50,13 @@ void write_verilog(text_sink & text, shown_bits const & bits, GNL_GENERATOR cons
     text << "]";
 }
 
-/// A target of one bit takes a bit and no vector of one element. The input of a subdesign takes what it was given.
+/// A target of one bit takes a bit and no vector of one element, and an array of such targets takes several. The input
+/// of a subdesign takes what it was given.
 bool is_one_bit_in_vhdl(shown_bits const & bits, GNL_GENERATOR const * level, GNL_PORT const * target)
 {
-    if (!target)
-        return bits.high == bits.low;
-    return target->get_original_width() <= 0 || (bits.high == bits.low && target->get_parent() == level);
+    if (target && target->get_original_width() <= 0 && target->get_default_width() <= 1)
+        return true;
+    return bits.high == bits.low && (!target || target->get_original_width() <= 0 || target->get_parent() == level);
 }
 
 void write_vhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level, GNL_PORT const * target)

@@ -2,7 +2,6 @@
 
 #include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/element_registry.h"
-#include "lbx/gnl/core/one_slice_widths.h"
 #include "lbx/gnl/ports/reference_text.h"
 #include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/port_kinds.h"
@@ -16,15 +15,6 @@
 using namespace gnl_detail;
 
 namespace {
-
-/// The signal of an output is a vector where somebody takes a range of it, too.
-int result_width(GNL_PORT & port)
-{
-    if (port.get_parent()->get_array_width() > 1)
-        return port.get_width();
-    int const width = declared_slice_width(port);
-    return width < 1 && port.is_vhdl_array_wire() ? 1 : width;
-}
 
 /// What a simulation starts with. Synthesis doesn't see it, unless the text is for simulation alone.
 void write_initial_value(text_sink & text, GNL_PORT & output, bool of_vector)
@@ -127,12 +117,12 @@ private:
     void declare_signal(GNL_PORT & port)
     {
         if (port.is_output()) {
-            int const width = result_width(port);
+            int const width = vhdl_net_width(port);
             declare_vhdl_signal(m_text, port.get_source_name(true), width);
             write_initial_value(m_text, port, width > 0);
             m_text << ";\n";
         } else if (bidir_has_signal(port, m_level)) {
-            declare_vhdl_signal(m_text, port.get_source_name(true), result_width(port)) << ";\n";
+            declare_vhdl_signal(m_text, port.get_source_name(true), vhdl_net_width(port)) << ";\n";
         } else if (port.is_input() && port.get_connection_level() == m_level
                    && input_has_signal(port, m_concat_signals)) {
             declare_vhdl_signal(m_text, port.get_source_name(true), port.get_width()) << ";\n";

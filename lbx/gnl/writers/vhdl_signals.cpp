@@ -1,5 +1,6 @@
 #include "lbx/gnl/writers/vhdl_signals.h"
 
+#include "lbx/gnl/core/one_slice_widths.h"
 #include "lbx/gnl/writers/port_kinds.h"
 
 #include <algorithm>
@@ -23,12 +24,24 @@ int loop_signal_width(GNL_PORT & port)
     return port.is_range_port() && width == 1 ? 0 : width;
 }
 
-bool input_has_signal(GNL_PORT const & input, bool concat_signals)
+int vhdl_net_width(GNL_PORT & port)
 {
-    auto const * driver = input.get_driver();
-    if (driver == nullptr)
-        return false;
-    return input.need_to_create_vhdl_loop() || (concat_signals && (driver->is_concat_port() || driver->is_logic()));
+    if (port.get_parent()->get_array_width() > 1)
+        return port.get_width();
+    int const width = declared_slice_width(port);
+    return width < 1 && port.is_vhdl_array_wire() ? 1 : width;
+}
+
+bool input_has_signal(GNL_PORT & input, bool concat_signals)
+{
+    auto * driver = input.get_driver();
+    if (driver == nullptr || input.need_to_create_vhdl_loop())
+        return driver != nullptr;
+    int const slices = input.get_parent()->get_array_width();
+    if (driver->is_concat_port() || driver->is_logic())
+        return concat_signals || slices > 1; // slices cut a signal, an expression has none
+    // What repeated a narrow driver may have been a wire that was taken out.
+    return slices < 1 && driver->get_bus_width() < input.get_bus_width();
 }
 
 bool is_constant_input(GNL_PORT & port)
@@ -55,14 +68,28 @@ std::string_view shared_constant_wire(GNL_PORT & input)
     }
 }
 
+namespace {
+
+/// Whether a subdesign's bidirectional port drives one of the design itself, and no other subdesign's.
+bool drives_own_bidir(GNL_PORT_BIDIR const & bidir, GNL_GENERATOR const * level)
+{
+    GNL_PORT const * driven = bidir.get_driven_bidir_port();
+    while (driven != nullptr && driven->is_range_port())
+        driven = static_cast<GNL_PORT_OUTPUT_RANGE const *>(driven)->get_range_driver();
+    return driven == nullptr || driven->get_parent() == level;
+}
+
+} // namespace
+
 bool bidir_has_signal(GNL_PORT & bidir, GNL_GENERATOR const * level)
 {
     auto const * port = as_bidir(bidir);
     if (port == nullptr)
         return false;
+    if (port->is_locked_bidir_port() == 2)
+        return !drives_own_bidir(*port, level);
     auto const * driver = driver_at(bidir, level);
-    return port->is_locked_bidir_port() == 1 || (driver != nullptr && !driver->is_bidir())
-           || has_constant_at(bidir, level);
+    return port->is_locked_bidir_port() == 1 || driver == nullptr || !driver->is_bidir();
 }
 
 namespace {

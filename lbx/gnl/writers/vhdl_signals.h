@@ -19,10 +19,14 @@ bool is_loop_signal(GNL_PORT const & port, GNL_GENERATOR const * level);
 /// The width of that signal: a vector also for one bit, but a range of one bit is a bit (0).
 int loop_signal_width(GNL_PORT & port);
 
+/// The width of the signal that stands for an output or a bidirectional port of a subdesign: a vector where somebody
+/// takes a range of it, too.
+int vhdl_net_width(GNL_PORT & port);
+
 /// Whether a subdesign's input reads its driver through a signal: where it takes the driver bit by bit, and where an
 /// instance can't show the driver in its port map. `concat_signals` is the `has_disabled_vhdl_concat_wires` of the
 /// subdesign.
-bool input_has_signal(GNL_PORT const & input, bool concat_signals);
+bool input_has_signal(GNL_PORT & input, bool concat_signals);
 
 /// Whether a constant drives the input and nothing else does.
 bool is_constant_input(GNL_PORT & port);
