@@ -51,7 +51,7 @@ private:
         GNL_PORT * carry = nullptr;
         for (int i = 0; i < WIDTH.get_value(); ++i) {
             auto & cell = *new FULL_ADDER(this); // owned by this generator
-            cell.set_instance_name("cell_" + std::to_string(j) + "_" + std::to_string(i) + "_");
+            cell.set_instance_name("cell_" + std::to_string(j) + "_" + std::to_string(i));
             cell.a = a[i] & b[j];
             if (static_cast<std::size_t>(i) < row.size())
                 cell.b = *row[static_cast<std::size_t>(i)];

@@ -46,7 +46,7 @@ private:
         GNL_PORT * carry = nullptr;
         for (int i = 0; i < WIDTH.get_value(); ++i) {
             auto & cell = *new FULL_ADDER(this);
-            cell.set_instance_name("carry" + std::to_string(carry_in) + "_bit" + std::to_string(i) + "_");
+            cell.set_instance_name("carry" + std::to_string(carry_in) + "_bit" + std::to_string(i));
             cell.a = a[i];
             cell.b = b[i];
             if (carry)
@@ -88,7 +88,7 @@ protected:
         for (int low = 0; low < width; low += BLOCK.get_value()) {
             int const bits = std::min(BLOCK.get_value(), width - low);
             auto & block = *new SELECT_BLOCK(this);
-            block.set_instance_name("from_bit" + std::to_string(low) + "_");
+            block.set_instance_name("from_bit" + std::to_string(low));
             block.WIDTH = bits;
             block.a = a.range(low + bits - 1, low);
             block.b = b.range(low + bits - 1, low);

@@ -18,7 +18,7 @@ public:
         , POLYNOMIAL(this, "POLYNOMIAL", -1, 64) // a vector is always given a value
         , crc(this, "crc", "WIDTH")
         , data(this, "data", "DATA_WIDTH")
-        , next(this, "next", "WIDTH")
+        , next_state(this, "next_state", "WIDTH")
     {
     }
 
@@ -46,7 +46,7 @@ protected:
             state = shifted;
         }
         for (int i = 0; i < width; ++i)
-            next[i] = *state[static_cast<std::size_t>(i)];
+            next_state[i] = *state[static_cast<std::size_t>(i)];
         dump_hdl(out);
     }
 
@@ -55,7 +55,7 @@ private:
     GNL_PARAMETER_INTEGER DATA_WIDTH;
     GNL_PARAMETER_VECTOR POLYNOMIAL;
     GNL_PORT_INPUT crc, data;
-    GNL_PORT_OUTPUT next;
+    GNL_PORT_OUTPUT next_state;
 };
 
 LBX_REGISTER_GENERATOR(CRC_STEP, "crc_step", "One step of a CRC over DATA_WIDTH bits")

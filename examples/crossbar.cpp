@@ -7,7 +7,7 @@
 
 namespace {
 
-/// result = data[select], for one bit.
+/// result = data[selection], for one bit.
 class MULTIPLEXER : public GNL_GENERATOR
 {
 public:
@@ -16,7 +16,7 @@ public:
         , SELECT_WIDTH(this, "SELECT_WIDTH", 1)
         , INPUTS(this, "INPUTS", 2)
         , data(this, "data", "INPUTS")
-        , select(this, "select", "SELECT_WIDTH")
+        , selection(this, "selection", "SELECT_WIDTH")
         , result(this, "result")
     {
     }
@@ -31,7 +31,7 @@ public:
     }
 
     GNL_PARAMETER_INTEGER SELECT_WIDTH, INPUTS;
-    GNL_PORT_INPUT data, select;
+    GNL_PORT_INPUT data, selection;
     GNL_PORT_OUTPUT result;
 
 protected:
@@ -41,7 +41,7 @@ protected:
         for (int input = 0; input < INPUTS.get_value(); ++input) {
             GNL_PORT * term = &data[input];
             for (int bit = 0; bit < SELECT_WIDTH.get_value(); ++bit)
-                term = &(*term & ((input >> bit) % 2 != 0 ? static_cast<GNL_PORT &>(select[bit]) : !select[bit]));
+                term = &(*term & ((input >> bit) % 2 != 0 ? static_cast<GNL_PORT &>(selection[bit]) : !selection[bit]));
             any = any ? static_cast<GNL_PORT *>(&(*any | *term)) : term;
         }
         result = *any;
@@ -61,7 +61,7 @@ public:
         , OUTPUTS(this, "OUTPUTS", 2)
         , WIDTH(this, "WIDTH", 4)
         , words(this, "words", "INPUTS*WIDTH")
-        , select(this, "select", "OUTPUTS*SELECT_WIDTH")
+        , selection(this, "selection", "OUTPUTS*SELECT_WIDTH")
         , results(this, "results", "OUTPUTS*WIDTH")
     {
     }
@@ -89,10 +89,10 @@ private:
         int const width = WIDTH.get_value();
         int const select_width = SELECT_WIDTH.get_value();
         auto & row = *new MULTIPLEXER(this, width);
-        row.set_instance_name("output" + std::to_string(output) + "_");
+        row.set_instance_name("output" + std::to_string(output));
         row.SELECT_WIDTH = select_width; // for all slices
         row.INPUTS = INPUTS.get_value();
-        row.select = select.range((output + 1) * select_width - 1, output * select_width); // all slices share it
+        row.selection = selection.range((output + 1) * select_width - 1, output * select_width); // all slices share it
         for (int bit = 0; bit < width; ++bit) {
             auto & slice = row[bit];
             for (int input = 0; input < INPUTS.get_value(); ++input)
@@ -102,7 +102,7 @@ private:
     }
 
     GNL_PARAMETER_INTEGER SELECT_WIDTH, INPUTS, OUTPUTS, WIDTH;
-    GNL_PORT_INPUT words, select;
+    GNL_PORT_INPUT words, selection;
     GNL_PORT_OUTPUT results;
 };
 

@@ -17,7 +17,7 @@ public:
         , OUTPUTS(this, "OUTPUTS", -1)
         , address(this, "address", "ADDRESS_WIDTH")
         , enable(this, "enable")
-        , select(this, "select", "OUTPUTS")
+        , selected(this, "selected", "OUTPUTS")
     {
         enable.set_default_port_value(1);
     }
@@ -39,7 +39,7 @@ protected:
             GNL_PORT * term = &enable;
             for (int bit = 0; bit < width; ++bit)
                 term = &(*term & ((output >> bit) % 2 != 0 ? static_cast<GNL_PORT &>(address[bit]) : !address[bit]));
-            select[output] = *term;
+            selected[output] = *term;
         }
         dump_hdl(out);
     }
@@ -48,7 +48,7 @@ private:
     GNL_PARAMETER_INTEGER ADDRESS_WIDTH;
     GNL_PARAMETER_INTEGER OUTPUTS;
     GNL_PORT_INPUT address, enable;
-    GNL_PORT_OUTPUT select;
+    GNL_PORT_OUTPUT selected;
 };
 
 LBX_REGISTER_GENERATOR(DECODER, "decoder", "One-hot decoder of ADDRESS_WIDTH address bits")

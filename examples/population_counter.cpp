@@ -66,7 +66,7 @@ private:
         int const bits = upper.count.get_bus_width(); // the upper half is never the smaller
         for (int i = 0; i < bits; ++i) {
             auto & cell = *new FULL_ADDER(this);
-            cell.set_instance_name("bit" + std::to_string(i) + "_");
+            cell.set_instance_name("bit" + std::to_string(i));
             cell.a = upper.count[i];
             if (i < lower.count.get_bus_width())
                 cell.b = lower.count[i];

@@ -72,7 +72,7 @@ protected:
         for (int step = 0; step < count; ++step)
             for (std::size_t i = static_cast<std::size_t>(step % 2); i + 1 < row.size(); i += 2) {
                 auto & exchange = *new COMPARE_EXCHANGE(this);
-                exchange.set_instance_name("step_" + std::to_string(step) + "_" + std::to_string(i) + "_");
+                exchange.set_instance_name("step_" + std::to_string(step) + "_" + std::to_string(i));
                 exchange.WIDTH = width; // parameters come before connections
                 exchange.a = *row[i];
                 exchange.b = *row[i + 1];

@@ -1,10 +1,11 @@
 #pragma once
 
-// An example generator with one setting of its parameters, and what is tried with each: it is generated as Verilog,
-// compiled, linted and simulated against a model.
+// An example generator with one setting of its parameters, and what is tried with each: it is generated as Verilog and
+// as VHDL, compiled, linted and simulated against a model.
 
 #include "support.h"
 #include "verilog_simulation.h"
+#include "vhdl_simulation.h"
 
 #include "lbx_plugin.h"
 
@@ -52,9 +53,9 @@ inline std::uint64_t mask(int width)
 }
 
 /// Generates into the working folder; the test fails when a message was posted.
-inline void generate_cleanly(example const & tried, std::string const & more = "")
+inline void generate_cleanly(example const & tried, std::string const & more = "", std::string const & extension = ".v")
 {
-    auto const top = make_example(tried.name, "LBX_FILE=" + tried.name + ".v," + tried.parameters + more);
+    auto const top = make_example(tried.name, "LBX_FILE=" + tried.name + extension + "," + tried.parameters + more);
     ASSERT_NE(top, nullptr);
     for (auto const & input : tried.inputs) // those with a default too
         ASSERT_TRUE(top->set_port_to_used(input.name.c_str()));
@@ -64,15 +65,37 @@ inline void generate_cleanly(example const & tried, std::string const & more = "
     EXPECT_EQ(messages_of(*top), "");
 }
 
-/// Simulates the generated files and compares every vector with the model.
-inline void simulate_like_the_model(example const & tried, std::string const & files)
+/// Compares what `simulate` makes of every vector with the model.
+template <class SIMULATE> void compare_with_the_model(example const & tried, SIMULATE simulate)
 {
     unsigned const seed = test_seed();
     SCOPED_TRACE("LBX_TEST_SEED=" + std::to_string(seed));
     auto const stimulus = stimulus_for(tried.inputs, seed);
-    auto const results = verilog_simulation(tried.name, tried.inputs, tried.outputs).run(files, stimulus);
+    auto const results = simulate(stimulus);
     for (std::size_t i = 0; i < stimulus.size(); ++i)
         ASSERT_EQ(results[i], tried.model(stimulus[i])) << "vector " << i;
+}
+
+/// Simulates the generated Verilog files.
+inline void simulate_like_the_model(example const & tried, std::string const & files)
+{
+    compare_with_the_model(tried, [&](std::vector<vector_of_pins> const & stimulus) {
+        return verilog_simulation(tried.name, tried.inputs, tried.outputs).run(files, stimulus);
+    });
+}
+
+/// Simulates the generated VHDL files of the working folder: all of the subdesigns, then the design itself.
+inline void simulate_vhdl_like_the_model(example const & tried)
+{
+    std::string const top_file = tried.name + ".vhd";
+    std::string files;
+    for (auto const & entry : fs::directory_iterator("."))
+        if (entry.path().filename() != top_file)
+            files += entry.path().filename().string() + " ";
+    files += top_file;
+    compare_with_the_model(tried, [&](std::vector<vector_of_pins> const & stimulus) {
+        return vhdl_simulation(tried.name, tried.inputs, tried.outputs).run(files, top_file, stimulus);
+    });
 }
 
 /// What the linter says about the generated files, "" when it is content.

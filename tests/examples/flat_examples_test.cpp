@@ -62,9 +62,9 @@ example decoder(int width)
     return {"decoder",
             "ADDRESS_WIDTH=" + std::to_string(width),
             {{"address", width}, {"enable", 1}},
-            {{"select", 1 << width}},
+            {{"selected", 1 << width}},
             [](vector_of_pins const & in) {
-                return vector_of_pins{{"select", in.at("enable") << in.at("address")}};
+                return vector_of_pins{{"selected", in.at("enable") << in.at("address")}};
             }};
 }
 
@@ -89,7 +89,7 @@ example crc(int width, int data_width, std::string const & polynomial, std::uint
             "WIDTH=" + std::to_string(width) + ",DATA_WIDTH=" + std::to_string(data_width)
                 + (polynomial.empty() ? "" : ",POLYNOMIAL=" + polynomial),
             {{"crc", width}, {"data", data_width}},
-            {{"next", width}},
+            {{"next_state", width}},
             [=](vector_of_pins const & in) {
                 std::uint64_t state = in.at("crc");
                 for (int bit = data_width - 1; bit >= 0; --bit) {
@@ -98,7 +98,7 @@ example crc(int width, int data_width, std::string const & polynomial, std::uint
                     if (feedback)
                         state ^= value;
                 }
-                return vector_of_pins{{"next", state}};
+                return vector_of_pins{{"next_state", state}};
             }};
 }
 
@@ -129,6 +129,13 @@ TEST_P(FlatExamples, SimulateLikeTheirModel)
     SKIP_WITHOUT("iverilog");
     generate_cleanly(GetParam());
     simulate_like_the_model(GetParam(), GetParam().name + ".v");
+}
+
+TEST_P(FlatExamples, SimulateInVhdlLikeTheirModel)
+{
+    SKIP_WITHOUT("ghdl");
+    generate_cleanly(GetParam(), "", ".vhd");
+    simulate_vhdl_like_the_model(GetParam());
 }
 
 TEST_P(FlatExamples, AreCleanForTheLinter)

@@ -67,13 +67,13 @@ example crossbar(int select_width, int outputs, int width)
     return {"crossbar",
             "SELECT_WIDTH=" + std::to_string(select_width) + ",OUTPUTS=" + std::to_string(outputs)
                 + ",WIDTH=" + std::to_string(width),
-            {{"words", inputs * width}, {"select", outputs * select_width}},
+            {{"words", inputs * width}, {"selection", outputs * select_width}},
             {{"results", outputs * width}},
             [=](vector_of_pins const & in) {
                 std::uint64_t results = 0;
                 for (int output = 0; output < outputs; ++output) {
                     auto const input =
-                        static_cast<int>((in.at("select") >> (output * select_width)) & mask(select_width));
+                        static_cast<int>((in.at("selection") >> (output * select_width)) & mask(select_width));
                     results |= ((in.at("words") >> (input * width)) & mask(width)) << (output * width);
                 }
                 return vector_of_pins{{"results", results}};
@@ -101,6 +101,22 @@ TEST_P(HierarchicalExamples, SimulateAsAFileForEachDesign)
         files += entry.path().filename().string() + " ";
     EXPECT_NE(files, GetParam().name + ".v ");
     simulate_like_the_model(GetParam(), files);
+}
+
+TEST_P(HierarchicalExamples, SimulateInVhdlAsOneFile)
+{
+    SKIP_WITHOUT("ghdl");
+    generate_cleanly(GetParam(), "", ".vhd");
+    EXPECT_EQ(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 1);
+    simulate_vhdl_like_the_model(GetParam());
+}
+
+TEST_P(HierarchicalExamples, SimulateInVhdlAsAFileForEachDesign)
+{
+    SKIP_WITHOUT("ghdl");
+    generate_cleanly(GetParam(), ",LBX_SINGLE_OUTPUT_FILE=OFF", ".vhd");
+    EXPECT_NE(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 1);
+    simulate_vhdl_like_the_model(GetParam());
 }
 
 TEST_P(HierarchicalExamples, AreCleanForTheLinter)
