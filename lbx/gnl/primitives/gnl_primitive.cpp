@@ -1,13 +1,16 @@
 #include "gnl_primitive.h"
 
+#include "lbx/gnl/primitives/cells.h"
+
 GNL_PRIMITIVE::GNL_PRIMITIVE(GNL_GENERATOR * parent, char const * entity_name, char const * text, int array_size)
-    : GNL_GENERATOR(parent, entity_name, text, array_size)
+    : GNL_GENERATOR(parent, entity_name ? entity_name : "", text, array_size)
 {
     set_instance_basename("gnl_prim");
     set_primitive();
     disable_lpm_type_output();
 }
 
+// What was added to the source is not added to its copy: it has one owner.
 GNL_PRIMITIVE::GNL_PRIMITIVE(GNL_PRIMITIVE const & other)
     : GNL_GENERATOR(other)
 {
@@ -17,10 +20,7 @@ GNL_PRIMITIVE::~GNL_PRIMITIVE() = default;
 
 void GNL_PRIMITIVE::create_self_copy(GNL_GENERATOR * parent, int index, std::string const & instance_name)
 {
-    auto * slice = new GNL_PRIMITIVE(parent, get_name().c_str());
-    slice->set_slice_index(index);
-    slice->set_array_parent(parent);
-    slice->set_instance_name(instance_name);
+    gnl_detail::settle_slice(*new GNL_PRIMITIVE(parent, get_name().c_str()), parent, index, instance_name);
 }
 
 GNL_PORT_INPUT * GNL_PRIMITIVE::add_input_port_to_primitive(std::string const & name, int width, int default_value)
