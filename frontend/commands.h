@@ -28,6 +28,11 @@ struct request
     std::string language;                ///< "" leaves the choice to the file name
     std::string file;
     std::string directory;
+    std::string files; ///< "ON" for one file, "OFF" for a file each, "" leaves the choice to the generator
+    bool forced = false;
+    std::string list_file; ///< takes the listing of what has been generated, if all is well
+    std::vector<std::string> black_boxes;
+    std::vector<std::string> library_paths;
     bool all = false; ///< `parameters` lists the options too
 };
 

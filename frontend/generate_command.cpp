@@ -1,11 +1,15 @@
 #include "commands.h"
 
+#include "design_files.h"
+#include "folder_lock.h"
 #include "messages.h"
+#include "nearest_names.h"
 #include "parameter_values.h"
+#include "plugin_catalogue.h"
+
+#include "gnl_ofstream.h"
 
 #include <filesystem>
-#include <iostream>
-#include <memory>
 #include <ostream>
 #include <set>
 
@@ -15,7 +19,6 @@ namespace lbxgen {
 
 namespace {
 
-namespace fs = std::filesystem;
 using json = nlohmann::ordered_json;
 
 /// The spelling of LBX_HDL_LANGUAGE for each spelling of the command line.
@@ -24,52 +27,36 @@ std::string language_option(std::string const & language)
     return language == "verilog" ? "Verilog" : language == "vhdl" ? "VHDL" : language == "tcl" ? "TCL" : "QHDL";
 }
 
+/// The entries of a switch that is given several times, as one option value.
+std::string joined(std::vector<std::string> const & entries, char separator, std::string const & what)
+{
+    std::string text;
+    for (auto const & entry : entries) {
+        if (entry.empty())
+            throw usage_error(what + " needs a name that is not empty");
+        text += (text.empty() ? "" : std::string(1, separator)) + entry;
+    }
+    return text;
+}
+
 /// The request's switches are options of the generator like any others.
 std::vector<parameter_value> values_of(request const & wanted)
 {
     std::vector<parameter_value> values;
-    if (!wanted.language.empty())
-        values.push_back({"LBX_HDL_LANGUAGE", language_option(wanted.language)});
-    if (!wanted.file.empty())
-        values.push_back({"LBX_FILE", wanted.file});
-    if (!wanted.directory.empty())
-        values.push_back({"LBX_OUTPUT_DIRECTORY", wanted.directory});
+    auto const add = [&values](char const * option, std::string const & value) {
+        if (!value.empty())
+            values.push_back({option, value});
+    };
+    add("LBX_HDL_LANGUAGE", wanted.language.empty() ? "" : language_option(wanted.language));
+    add("LBX_FILE", wanted.file);
+    add("LBX_OUTPUT_DIRECTORY", wanted.directory);
+    add("LBX_SINGLE_OUTPUT_FILE", wanted.files);
+    add("LBX_FORCE_HDL_GENERATION", wanted.forced ? "ON" : "");
+    add("LBX_BLACKBOX_LIST", joined(wanted.black_boxes, '|', "--blackbox"));
+    add("LBX_LIBRARY_PATH", joined(wanted.library_paths, ';', "--library-path"));
     for (auto const & text : wanted.parameters)
         values.push_back(parse_parameter_value(text));
     return values;
-}
-
-/// Files of the design and its subdesigns that stand on disk, each once, the top's last.
-void collect_files(GNL_GENERATOR & design, std::set<std::string> & seen, json & files)
-{
-    std::map<std::string, GNL_GENERATOR *, LESS_C_STRING> subdesigns;
-    design.get_subdesign_generator_objects(subdesigns);
-    for (auto const & entry : subdesigns)
-        if (!entry.second->is_primitive())
-            collect_files(*entry.second, seen, files);
-    std::string const file = design.get_file_name();
-    std::error_code unknown;
-    if (!file.empty() && fs::is_regular_file(file, unknown) && seen.insert(file).second)
-        files.push_back({{"file", file}, {"state", design.generate_file() ? "written" : "reused"}});
-}
-
-/// How a run ended that did not end by itself.
-std::string exception_text(std::exception_ptr const & thrown)
-{
-    try {
-        std::rethrow_exception(thrown);
-    } catch (std::exception const & exception) {
-        return exception.what();
-    } catch (char * text) {
-        std::unique_ptr<char[]> const owned(text); // the catcher's to free
-        return owned.get();
-    } catch (char const * text) {
-        return text;
-    } catch (bool) {
-        return "the body was given up";
-    } catch (...) {
-        return "unknown exception";
-    }
 }
 
 /// Runs the generation; the text of the exception that ended it, "" if none did.
@@ -97,6 +84,51 @@ json as_json(std::vector<message> const & messages)
     return list;
 }
 
+/// A black box that is none of the design's subdesigns is a mistake in its name. Nothing is known of the subdesigns of
+/// a design that was not run, and a file holds names for many designs.
+void check_black_boxes(GNL_GENERATOR & top, request const & wanted, run_results const & results,
+                       std::vector<message> & messages)
+{
+    if (!top.generate_file() || GNL_ELEMENT::get_gen_language() == GNL_TCL)
+        return;
+    std::error_code unknown;
+    if (std::filesystem::is_regular_file(joined(wanted.black_boxes, '|', "--blackbox"), unknown))
+        return;
+    std::set<std::string, LESS_C_STRING> const names(results.subdesigns.begin(), results.subdesigns.end());
+    for (auto const & name : wanted.black_boxes)
+        if (!name.starts_with('-') && !names.contains(name) && name.find('|') == std::string::npos)
+            messages.push_back({"warning",
+                                top.get_name() + " has no subdesign " + name + " to be a black box"
+                                    + did_you_mean(name, {names.begin(), names.end()}),
+                                "", ""});
+}
+
+json as_json(run_results const & results)
+{
+    json files = json::array();
+    for (auto const & file : results.files)
+        files.push_back({{"file", file.name}, {"state", file.written ? "written" : "reused"}});
+    return files;
+}
+
+/// A line for each file and black box: what became of it, a tab, its name.
+void print_results(std::ostream & out, run_results const & results)
+{
+    for (auto const & file : results.files)
+        out << (file.written ? "written\t" : "reused\t") << file.name << "\n";
+    for (auto const & name : results.black_boxes)
+        out << "black box\t" << name << "\n";
+}
+
+/// The list is there when it is whole: builds take it for the sign that all went well.
+bool write_list(std::string const & file, run_results const & results)
+{
+    GNL_OFSTREAM list(file.c_str(), GNL_OFSTREAM::output_mode);
+    print_results(list, results);
+    list.close();
+    return list.good();
+}
+
 } // namespace
 
 int generate(plugin_catalogue const & catalogue, request const & wanted, output const & out)
@@ -104,26 +136,37 @@ int generate(plugin_catalogue const & catalogue, request const & wanted, output 
     auto const top = catalogue.find(wanted.generator).make("");
     assign_values(*top, values_of(wanted));
     use_all_inputs(*top);
+    folder_lock const lock(*top);
+    files_before const before(*top);
     auto const thrown = run(*top, out.results);
 
     auto messages = messages_of(*top);
     int result = top->generator_result();
-    json files = json::array();
+    auto const results = results_of(*top, before);
     if (!thrown.empty()) {
         messages.push_back({"error", wanted.generator + " ended with an exception: " + thrown, "", ""});
         result = errors;
     } else {
-        std::set<std::string> seen;
-        collect_files(*top, seen, files);
+        check_black_boxes(*top, wanted, results, messages);
     }
     if (out.json) {
-        out.results << json{{"result", result}, {"messages", as_json(messages)}, {"files", files}}.dump(2) << "\n";
+        out.results << json{{"result", result},
+                            {"messages", as_json(messages)},
+                            {"files", as_json(results)},
+                            {"black_boxes", results.black_boxes}}
+                           .dump(2)
+                    << "\n";
         return result;
     }
     for (auto const & message : messages)
         print_message(out.messages, message, out.coloured);
-    for (auto const & file : files)
-        out.results << file["file"].get<std::string>() << "\n";
+    if (wanted.list_file.empty())
+        print_results(out.results, results);
+    else if (result == fine && !write_list(wanted.list_file, results)) {
+        print_message(out.messages, {"error", "the list can't be written to " + wanted.list_file, "", ""},
+                      out.coloured);
+        result = errors;
+    }
     return result;
 }
 

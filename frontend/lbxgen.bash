@@ -15,20 +15,21 @@ _lbxgen() {
         i=$((i + 1))
         [ "$i" -lt "$COMP_CWORD" ] && _lbxgen_plugins+=(-p "${COMP_WORDS[i]}")
         ;;
-      -l | --language | -o | --output | -d | --directory) i=$((i + 1)) ;;
+      -l | --language | -o | --output | -d | --directory | --blackbox | --library-path | --list-file) i=$((i + 1)) ;;
       -*) ;;
       *) if [ -z "$command" ]; then command=${COMP_WORDS[i]}; elif [ -z "$name" ]; then name=${COMP_WORDS[i]}; fi ;;
     esac
   done
   case $previous in
-    -p | --plugin | -o | --output) mapfile -t COMPREPLY < <(compgen -f -- "$current") && return ;;
-    -d | --directory) mapfile -t COMPREPLY < <(compgen -d -- "$current") && return ;;
+    -p | --plugin | -o | --output | --list-file | --blackbox) mapfile -t COMPREPLY < <(compgen -f -- "$current") && return ;;
+    -d | --directory | --library-path) mapfile -t COMPREPLY < <(compgen -d -- "$current") && return ;;
     -l | --language) mapfile -t COMPREPLY < <(compgen -W "verilog vhdl qhdl tcl" -- "$current") && return ;;
   esac
   local words
   if [[ $current == -* ]]; then
-    words="--plugin --json --help"
-    [ "$command" = generate ] && words="$words --language --output --directory"
+    words="--plugin --json --help --version"
+    [ "$command" = generate ] && words="$words --language --output --directory --single-file --separate-files \
+      --force --blackbox --library-path --list-file"
     [ "$command" = parameters ] && words="$words --all"
   elif [ -z "$command" ]; then
     words="list parameters ports generate"

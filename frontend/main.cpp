@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <csignal>
 #include <functional>
 #include <iostream>
 #include <unistd.h>
@@ -24,6 +25,12 @@ private:
     CLI::App * add_command(char const * name, char const * summary, command action);
     void add_generator(CLI::App & app) { app.add_option("NAME", m_request.generator, "Generator class")->required(); }
     void add_parameters(CLI::App & app) { app.add_option("PARAMETER", m_request.parameters, "NAME=value"); }
+    /// An option that takes one value each time it is given.
+    static CLI::Option & add_repeatable(CLI::App & app, char const * names, std::vector<std::string> & values,
+                                        char const * summary)
+    {
+        return *app.add_option(names, values, summary)->allow_extra_args(false);
+    }
     void add_generate();
     int fail(std::string const & text, int status) const;
 
@@ -38,7 +45,7 @@ command_line::command_line()
 {
     m_app.require_subcommand(1);
     m_app.set_version_flag("--version", "lbxgen " + get_lbx_gnl_version());
-    m_app.add_option("-p,--plugin", m_plugins, "Plug-in to load; may be given several times")->type_name("FILE");
+    add_repeatable(m_app, "-p,--plugin", m_plugins, "Plug-in to load; may be given several times").type_name("FILE");
     m_app.add_flag("--json", m_json, "Results as JSON");
     m_app.fallthrough();
     m_app.footer("Plug-ins are also loaded from the folders of LBX_PLUGIN_PATH.\n"
@@ -75,6 +82,19 @@ void command_line::add_generate()
     app.add_option("-o,--output", m_request.file, "File of the top design; its ending can choose the language")
         ->type_name("FILE");
     app.add_option("-d,--directory", m_request.directory, "Folder for the files")->type_name("DIR");
+    auto * const single = app.add_flag_callback(
+        "--single-file", [this] { m_request.files = "ON"; }, "Subdesigns go to the file of the top design");
+    auto * const separate = app.add_flag_callback(
+        "--separate-files", [this] { m_request.files = "OFF"; }, "Every subdesign has a file of its own");
+    single->excludes(separate);
+    app.add_flag("--force", m_request.forced, "Generate also what is there already with the same settings");
+    add_repeatable(app, "--blackbox", m_request.black_boxes, "Subdesign that stands as a black box, or file of names")
+        .type_name("NAME");
+    add_repeatable(app, "--library-path", m_request.library_paths, "Folder in which generators look for files")
+        .type_name("DIR");
+    app.add_option("--list-file", m_request.list_file,
+                   "Where the list of files goes, if all is well, instead of standard output")
+        ->type_name("FILE");
 }
 
 int command_line::fail(std::string const & text, int status) const
@@ -98,13 +118,14 @@ int command_line::run(int argc, char ** argv)
             catalogue.load(file);
         for (auto const & folder : plugin_folders())
             catalogue.load_folder(folder);
-        return m_command(catalogue, {std::cout, std::cerr, m_json, isatty(STDERR_FILENO) != 0});
+        int const status = m_command(catalogue, {std::cout, std::cerr, m_json, isatty(STDERR_FILENO) != 0});
+        if (!std::cout.flush())
+            return fail("the results can't be written to standard output", errors);
+        return status;
     } catch (usage_error const & error) {
         return fail(error.what(), wrong_usage);
-    } catch (std::exception const & error) {
-        return fail(std::string("unexpected: ") + error.what(), errors);
     } catch (...) {
-        return fail("a generator ended with an unknown exception", errors);
+        return fail("ended with an exception: " + exception_text(std::current_exception()), errors);
     }
 }
 
@@ -112,5 +133,7 @@ int command_line::run(int argc, char ** argv)
 
 int main(int argc, char ** argv)
 {
+    // A file that grows beyond what the process may write is an error to report, as a full disk is.
+    std::signal(SIGXFSZ, SIG_IGN);
     return command_line().run(argc, argv);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <memory>
 #include <ostream>
 
 namespace lbxgen {
@@ -68,6 +69,24 @@ void print_message(std::ostream & out, message const & message, bool coloured)
         out << "  cause: " << message.cause << "\n";
     if (!message.action.empty())
         out << "  action: " << message.action << "\n";
+}
+
+std::string exception_text(std::exception_ptr const & thrown)
+{
+    try {
+        std::rethrow_exception(thrown);
+    } catch (std::exception const & exception) {
+        return exception.what();
+    } catch (char * text) {
+        std::unique_ptr<char[]> const owned(text); // the catcher's to free
+        return owned.get();
+    } catch (char const * text) {
+        return text;
+    } catch (bool) {
+        return "the body was given up";
+    } catch (...) {
+        return "unknown exception";
+    }
 }
 
 } // namespace lbxgen

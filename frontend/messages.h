@@ -2,6 +2,7 @@
 
 #include "gnl_generator.h"
 
+#include <exception>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -25,5 +26,8 @@ message parse_message(std::string const & type, std::string const & stored);
 
 /// Writes "error: text" with cause and action on lines of their own; `coloured` for a terminal.
 void print_message(std::ostream & out, message const & message, bool coloured);
+
+/// What an exception that has left the library or a generator says.
+std::string exception_text(std::exception_ptr const & thrown);
 
 } // namespace lbxgen

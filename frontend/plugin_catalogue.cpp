@@ -43,6 +43,11 @@ lbx::plugin_contents const & open_plugin(fs::path const & file)
 
 void plugin_catalogue::load(fs::path const & file)
 {
+    load(file, true);
+}
+
+void plugin_catalogue::load(fs::path const & file, bool named)
+{
     auto const place = fs::absolute(file).lexically_normal();
     if (std::find(m_loaded.begin(), m_loaded.end(), place) != m_loaded.end())
         return;
@@ -52,7 +57,7 @@ void plugin_catalogue::load(fs::path const & file)
                           + contents.library_version + " of the library, this is " + get_lbx_gnl_version());
     m_loaded.push_back(place);
     for (auto const & entry : *contents.classes)
-        if (!m_classes.emplace(entry.name, entry).second)
+        if (!m_classes.emplace(entry.name, entry).second && named)
             throw usage_error("plug-in " + place.string() + " can't be loaded: a generator named " + entry.name
                               + " is there already");
 }
@@ -66,7 +71,7 @@ void plugin_catalogue::load_folder(fs::path const & folder)
             files.push_back(entry.path());
     std::sort(files.begin(), files.end());
     for (auto const & file : files)
-        load(file);
+        load(file, false);
 }
 
 lbx::generator_class const & plugin_catalogue::find(std::string const & name) const
