@@ -1,28 +1,17 @@
 // The command-line front-end as a user sees it: results, messages and exit status.
 
-#include "outside_tools.h"
-#include "support.h"
+#include "lbxgen_support.h"
 
 #include <nlohmann/json.hpp>
+
+#include <string>
 
 namespace {
 
 using namespace gnl_test;
 using json = nlohmann::json;
 
-class Lbxgen : public in_folder
-{
-protected:
-    /// Runs lbxgen with the examples' plug-in; both outputs together.
-    static command_result run(std::string const & arguments)
-    {
-        return run_command("env -u LBX_PLUGIN_PATH '" LBXGEN_PROGRAM "' --plugin '" LBXGEN_EXAMPLES "' " + arguments);
-    }
-    static command_result run_bare(std::string const & arguments)
-    {
-        return run_command("env -u LBX_PLUGIN_PATH '" LBXGEN_PROGRAM "' " + arguments);
-    }
-};
+using Lbxgen = lbxgen_test;
 
 TEST_F(Lbxgen, ListsTheClassesWithTheirSummaries)
 {
@@ -74,7 +63,7 @@ TEST_F(Lbxgen, GeneratesAndListsTheFile)
 {
     auto const generated = run("generate ripple_carry_adder WIDTH=4 -o adder.v");
     EXPECT_EQ(generated.status, 0);
-    EXPECT_EQ(generated.text, "adder.v\n");
+    EXPECT_EQ(generated.text, "written\tadder.v\n");
     EXPECT_TRUE(file_text("adder.v").ends_with("//VALID FILE\n"));
 }
 
@@ -83,7 +72,7 @@ TEST_F(Lbxgen, WritesIntoTheFolderInTheLanguageAskedFor)
     fs::create_directory("out");
     auto const generated = run("generate ripple_carry_adder WIDTH=2 -d out -o adder.tcl -l tcl");
     EXPECT_EQ(generated.status, 0);
-    EXPECT_EQ(generated.text, "out/adder.tcl\n");
+    EXPECT_EQ(generated.text, "written\tout/adder.tcl\n");
     EXPECT_EQ(file_text("out/adder.tcl"), "set {intrfc_port(a)} {input 2}\n"
                                           "set {intrfc_port(b)} {input 2}\n"
                                           "set {intrfc_port(cin)} {input 0}\n"
@@ -97,6 +86,7 @@ TEST_F(Lbxgen, GeneratesWithJson)
     EXPECT_EQ(result["result"], 0);
     EXPECT_EQ(result["messages"], json::array());
     EXPECT_EQ(result["files"], json::parse(R"([{"file":"p.v","state":"written"}])"));
+    EXPECT_EQ(result["black_boxes"], json::array());
 }
 
 TEST_F(Lbxgen, ErrorsHaveCauseAndActionOnLinesOfTheirOwn)
@@ -164,6 +154,28 @@ TEST_F(Lbxgen, PlugInsThatCannotBeLoadedAreOneClearLineEach)
               "error: there is no generator adder: no plug-in is loaded (use --plugin FILE)\n");
 }
 
+TEST_F(Lbxgen, ANamedPlugInComesBeforeThoseOfFolders)
+{
+    fs::create_directory("folder");
+    fs::copy_file(LBXGEN_EXAMPLES, "folder/a.so");
+    fs::copy_file(LBXGEN_ODD_GENERATORS, "folder/b.so");
+    fs::copy_file(LBXGEN_ODD_GENERATORS, "folder/c.so");
+    auto const listed = run_command("LBX_PLUGIN_PATH=folder '" LBXGEN_PROGRAM "' -p '" LBXGEN_EXAMPLES "' list");
+    EXPECT_EQ(listed.status, 0) << listed.text;
+    EXPECT_NE(listed.text.find("decoder"), std::string::npos) << listed.text;
+    EXPECT_NE(listed.text.find("bank"), std::string::npos) << listed.text;
+    fs::copy_file(LBXGEN_EXAMPLES, "same.so");
+    EXPECT_EQ(run("-p same.so list").text, "error: plug-in " + fs::absolute("same.so").string()
+                                               + " can't be loaded: a generator named array_multiplier is there "
+                                                 "already\n");
+}
+
+TEST_F(Lbxgen, APlugInOptionTakesOneValueWhereverItStands)
+{
+    EXPECT_EQ(run_bare("generate ripple_carry_adder -p '" LBXGEN_EXAMPLES "' WIDTH=4 -o adder.v").text,
+              "written\tadder.v\n");
+}
+
 TEST_F(Lbxgen, PlugInsAreFoundInFolders)
 {
     auto const folder = fs::path(LBXGEN_EXAMPLES).parent_path().string();
@@ -211,6 +223,23 @@ TEST_F(Lbxgen, ManPageAndCompletionAreWellFormed)
         "' -p '" LBXGEN_EXAMPLES
         "' generate par); COMP_CWORD=4; compopt() { :; }; _lbxgen; printf '%s\\\\n' \\\"\\${COMPREPLY[@]}\\\"\"");
     EXPECT_EQ(completed.text, "parity_tree\n");
+}
+
+TEST_F(Lbxgen, ManPageAndCompletionKnowAllOptions)
+{
+    auto manual = file_text(LBX_SOURCE_DIR "/frontend/lbxgen.1");
+    std::erase(manual, '\\');
+    auto const completion = file_text(LBX_SOURCE_DIR "/frontend/lbxgen.bash");
+    for (std::string const command : {"", "list ", "parameters ", "ports ", "generate "}) {
+        auto const help = run_bare(command + "--help").text;
+        int options = 0;
+        for (auto at = help.find("--"); at != std::string::npos; at = help.find("--", at + 2), ++options) {
+            auto const option = help.substr(at, help.find_first_not_of("abcdefghijklmnopqrstuvwxyz-", at) - at);
+            EXPECT_NE(completion.find(option), std::string::npos) << option;
+            EXPECT_NE(manual.find(option), std::string::npos) << option;
+        }
+        EXPECT_GT(options, 0) << help;
+    }
 }
 
 } // namespace
