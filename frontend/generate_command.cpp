@@ -27,6 +27,35 @@ std::string language_option(std::string const & language)
     return language == "verilog" ? "Verilog" : language == "vhdl" ? "VHDL" : language == "tcl" ? "TCL" : "QHDL";
 }
 
+/// The language that a file name's ending stands for, also with one letter more; "" if it stands for none.
+std::string language_of(std::string const & file)
+{
+    auto const name = file.substr(0, file.find(':'));
+    auto const less_one = name.substr(0, name.empty() ? 0 : name.size() - 1);
+    auto const ends_in = [&](char const * ending) { return name.ends_with(ending) || less_one.ends_with(ending); };
+    return ends_in(".vh")           ? "vhdl"
+           : ends_in(".v")          ? "verilog"
+           : name.ends_with(".tcl") ? "tcl"
+           : ends_in(".td")         ? "qhdl"
+                                    : "";
+}
+
+/// The library asks for VHDL, Verilog, Tcl and QHDL in this order, and takes the first that either the option or the
+/// file's ending names. Where that is not the one that the user asks for, nobody should find it out from the file.
+void check_language(request const & wanted)
+{
+    if (wanted.language.empty())
+        return;
+    auto const ending = language_of(wanted.file);
+    for (char const * language : {"vhdl", "verilog", "tcl", "qhdl"}) {
+        if (wanted.language == language)
+            return;
+        if (ending == language)
+            throw usage_error("the ending of " + wanted.file + " makes it a " + ending
+                              + " file, but the language is to be " + wanted.language);
+    }
+}
+
 /// The entries of a switch that is given several times, as one option value.
 std::string joined(std::vector<std::string> const & entries, char separator, std::string const & what)
 {
@@ -42,6 +71,7 @@ std::string joined(std::vector<std::string> const & entries, char separator, std
 /// The request's switches are options of the generator like any others.
 std::vector<parameter_value> values_of(request const & wanted)
 {
+    check_language(wanted);
     std::vector<parameter_value> values;
     auto const add = [&values](char const * option, std::string const & value) {
         if (!value.empty())

@@ -90,6 +90,19 @@ TEST_F(LbxgenGenerate, OneFileAndManyExcludeEachOther)
     EXPECT_EQ(run_odd("generate bank --single-file --separate-files").status, 64);
 }
 
+TEST_F(LbxgenGenerate, AnEndingThatWouldOverruleTheLanguageIsTold)
+{
+    auto const failed = run_odd("generate bank -l verilog -o bank.vhd");
+    EXPECT_EQ(failed.status, 64);
+    EXPECT_EQ(failed.text, "error: the ending of bank.vhd makes it a vhdl file, but the language is to be verilog\n");
+    EXPECT_EQ(run_odd("generate bank -l tcl -o bank.v").status, 64);
+    EXPECT_EQ(run_odd("generate bank -l qhdl -o bank.v:a").status, 64);
+    EXPECT_EQ(files().size(), 0u);
+    EXPECT_EQ(run_odd("generate bank -l vhdl -o bank.v").text, "written\tbank.v\n");
+    EXPECT_TRUE(file_text("bank.v").ends_with("--VALID FILE\n"));
+    EXPECT_EQ(run_odd("generate bank -l verilog -o bank.text").text, "written\tbank.text\n");
+}
+
 // Reuse
 
 TEST_F(LbxgenGenerate, SubdesignsThatAreThereAreReused)
@@ -222,6 +235,28 @@ TEST_F(LbxgenGenerate, AFileThatCannotBeWrittenIsNotListed)
                            "  cause: The file cannot be created. The file already exists, and is write-protected, or "
                            "there is not enough space.\n");
     EXPECT_EQ(files(), before);
+}
+
+TEST_F(LbxgenGenerate, AFullDiskLeavesNothingBehind)
+{
+    auto const failed =
+        run_command("ulimit -f 1; env -u LBX_PLUGIN_PATH '" LBXGEN_PROGRAM "' -p '" LBXGEN_ODD_GENERATORS
+                    "' generate bank WIDTH=64 COPIES=40 -o bank.v --separate-files");
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_NE(failed.text.find("error: File bank.v cannot be created.\n"), std::string::npos) << failed.text;
+    EXPECT_EQ(failed.text.find("written\tbank.v"), std::string::npos) << failed.text;
+    EXPECT_EQ(files().size(), 0u) << files().begin()->first;
+}
+
+TEST_F(LbxgenGenerate, MessagesAreColouredOnATerminalOnly)
+{
+    SKIP_WITHOUT("script");
+    auto const plain = run_odd("generate bank COPIES=0 -o bank.v").text;
+    EXPECT_TRUE(plain.starts_with("error: COPIES is 0\n")) << plain;
+    auto const coloured = run_command("script -qec \"'" LBXGEN_PROGRAM "' -p '" LBXGEN_ODD_GENERATORS
+                                      "' generate bank COPIES=0 -o bank.v\" /dev/null");
+    EXPECT_EQ(coloured.status, 1);
+    EXPECT_TRUE(coloured.text.starts_with("\033[1;31merror:\033[0m COPIES is 0\r\n")) << coloured.text;
 }
 
 TEST_F(LbxgenGenerate, ResultsThatCannotBeWrittenAreAnError)
