@@ -116,6 +116,81 @@ TEST_F(SliceGeneration, AMasterWithoutADesignLeavesItsNameToOthers)
     EXPECT_EQ(plain->get_entity_name(), "top_" + name_of("cell d q"));
 }
 
+TEST_F(SliceGeneration, WhatTheWholeArrayIsGivenReachesADifferingSlice)
+{
+    design top(nullptr, "top", "LBX_FILE=top.v");
+    auto & a = top.input("a", 2);
+    auto & y = top.output("y", 2);
+    top.run([&](design & self) {
+        auto & array = self.child("cell", "u", "", 2);
+        array.declare_slice = [](design & slice) {
+            slice.input("constant", 1);
+            slice.input("repeated", 2);
+            slice.output("q");
+            slice.integer("SIZE", 2);
+        };
+        array.declare_slice(array);
+        array.body = [](design & own) { own.port("q") = own.port("repeated")[1] & own.port("constant"); };
+        array[1].parameter_integer("SIZE") = 5;
+        array.port("constant") = 3;
+        array.port("repeated") = (a[0], a[1]);
+        y = array.port("q");
+    });
+    EXPECT_EQ(top.messages(), texts{});
+}
+
+TEST_F(SliceGeneration, AnOutputThatOnlySomeSlicesHaveIsConnectedThere)
+{
+    design top(nullptr, "top", "LBX_FILE=top.v");
+    auto & a = top.input("a");
+    auto & y = top.output("y", 3);
+    auto & z = top.output("z");
+    top.run([&](design & self) {
+        auto & array = self.child("cell", "u", "", 3);
+        array.declare_slice = [](design & slice) {
+            slice.input("d");
+            slice.output("carry");
+            slice.output("q");
+        };
+        array.declare_slice(array);
+        array.body = [](design & own) {
+            own.port("q") = ~own.port("d");
+            if (own.port("carry").is_used())
+                own.port("carry") = own.port("d");
+        };
+        array.port("d") = a;
+        y = array.port("q");
+        z = array[2].port("carry");
+    });
+    EXPECT_EQ(top.messages(), texts{});
+    auto const common = "top_" + name_of("cell carry d q");
+    auto const without_carry = "top_" + name_of("cell d q");
+    auto const text = file_text("top.v");
+    auto const from = text.find("\twire  [2:0]   wire_u_carry;\n");
+    ASSERT_NE(from, std::string::npos) << text;
+    EXPECT_EQ(text.substr(from, text.find("\tassign\n", from) - from), "\twire  [2:0]   wire_u_carry;\n"
+                                                                       "\twire  [2:0]   wire_u_q;\n"
+                                                                       "\n"
+                                                                       "\t" + without_carry
+                                                                           + "   u_0\n"
+                                                                             "\t( \n"
+                                                                             "\t.d(a),\n"
+                                                                             "\t.q(wire_u_q[0:0]));\n"
+                                                                             "\t"
+                                                                           + without_carry
+                                                                           + "   u_1\n"
+                                                                             "\t( \n"
+                                                                             "\t.d(a),\n"
+                                                                             "\t.q(wire_u_q[1:1]));\n"
+                                                                             "\t"
+                                                                           + common
+                                                                           + "   u_2\n"
+                                                                             "\t( \n"
+                                                                             "\t.carry(wire_u_carry[2:2]),\n"
+                                                                             "\t.d(a),\n"
+                                                                             "\t.q(wire_u_q[2:2]));\n");
+}
+
 TEST_F(SliceGeneration, AMasterWithoutADesignTakesTheCustomOutputOfItsSlices)
 {
     array_run run("top.v", 2, [](design & array) {

@@ -426,6 +426,11 @@ TEST_F(PortModel, FreeBitsAreThoseThatNothingDrives)
     EXPECT_FALSE(part.check_port_assignment(0, 2));
     EXPECT_FALSE(part.check_if_driven_at_bits(6, 7));
     EXPECT_TRUE(part.check_if_driven_at_bits(5, 7));
+    // What is concatenated as a whole is repeated over a wider port, so it takes every bit.
+    auto & repeated = top.output("repeated", 8);
+    repeated = (x[1], x[0]);
+    EXPECT_FALSE(repeated.check_port_assignment(6, 7));
+    EXPECT_TRUE(repeated.check_if_driven_at_bits(6, 7));
 }
 
 TEST_F(PortModel, AnInvertedDriverIsTheNotOfASimplePort)

@@ -76,6 +76,32 @@ TEST_F(StructuralNetlist, NestedExpressionsAreReadByTheirNets)
                              "\tand(w_lg_a4w[1], a[1], w_lg_s3w);\n");
 }
 
+TEST_F(StructuralNetlist, AConcatenationIsReadBitByBit)
+{
+    auto & a = top.input("a", 3);
+    auto & s = top.input("s");
+    GNL_PORT & inner = (s, s);
+    auto & inverted = !(a.range(2, 1), s, 2, inner, a[0]);
+    std::string const gate = "\tnot(" + inverted.get_name();
+    EXPECT_EQ(gates(inverted), gate + "[0], a[0]);\n" + gate + "[1], s);\n" + gate + "[2], s);\n" + gate
+                                   + "[3], 1'b0);\n" + gate + "[4], 1'b1);\n" + gate + "[5], s);\n" + gate
+                                   + "[6], a[1]);\n" + gate + "[7], a[2]);\n");
+}
+
+TEST_F(StructuralNetlist, OutputsOfSlicesAreBitsOfTheArraysSignal)
+{
+    auto & arr = top.child("leaf", "arr", "", 2);
+    arr.declare_slice = [](design & slice) {
+        slice.output("q", 2);
+        slice.output("r", 2);
+    };
+    arr.declare_slice(arr);
+    auto & both = arr[1].port("q") & arr[1].port("r");
+    arr.port("q").set_used(); // read as a whole elsewhere
+    EXPECT_EQ(gates(both), "\tand(w_lg_q1w[0], wire_arr_q[2], wire_arr_1r[0]);\n"
+                           "\tand(w_lg_q1w[1], wire_arr_q[3], wire_arr_1r[1]);\n");
+}
+
 TEST_F(StructuralNetlist, OutputOfASubdesign)
 {
     auto & q = top.child("leaf", "u1").output("q", 2);

@@ -227,6 +227,20 @@ TEST_F(VerilogArrayOfSlices, ConnectsWhatTheSlicesConnect)
                                 "\t.r(wire_arr_1r[3:0]));\n");
 }
 
+TEST_F(VerilogArrayOfSlices, ANarrowDriverOfASliceIsRepeated)
+{
+    top_design top;
+    auto & bit = top.input("bit");
+    bit.set_used();
+    auto & arr = top.subdesign("leaf", "arr", 1);
+    arr.input("a", 4);
+    arr.declare_slice = [](design & slice) { slice.input("a", 4); };
+    top.connect([&] { arr[0].port("a") = bit; });
+    EXPECT_EQ(instance_of(arr), "\tleaf   arr_0\n"
+                                "\t( \n"
+                                "\t.a({4{bit}}));\n");
+}
+
 TEST_F(VerilogArrayOfSlices, BidirectionalPortsOfSlices)
 {
     top_design top;

@@ -1,6 +1,7 @@
 #include "gnl_generator.h"
 
 #include "lbx/gnl/core/case_folding.h"
+#include "lbx/gnl/core/element_registry.h"
 
 namespace {
 
@@ -34,6 +35,24 @@ struct custom_output
     }
 };
 
+/// The design of `slice` has the outputs that are read by now, in the slice or in the whole array. The common design,
+/// whose body runs later, may come to have more of them.
+void keep_used_outputs(GNL_GENERATOR & slice)
+{
+    for (GNL_PORT & port : slice.registry().ports())
+        if ((port.is_output() || port.is_bidir()) && port.is_used())
+            port.set_used();
+}
+
+/// Notes which outputs the design of a slice has because the array's are read. The common design marks the array's as
+/// used when it drives them, and then it could not be told any more.
+void mark_read_outputs(GNL_GENERATOR & slice)
+{
+    for (auto & port : slice.registry().ports())
+        if (port.is_output() && port.is_used())
+            port.set_used();
+}
+
 } // namespace
 
 bool GNL_GENERATOR::generate_differing_slices(std::ostream & stream)
@@ -55,7 +74,9 @@ bool GNL_GENERATOR::generate_differing_slices(std::ostream & stream)
         }
         if (m_state.append_mode)
             slice->set_append_mode();
+        mark_read_outputs(*slice);
         slice->generate_subdesign(stream);
+        keep_used_outputs(*slice);
         slice->count_total_subdesign_resources(m_state.resource_map);
         custom.note(*slice);
     }

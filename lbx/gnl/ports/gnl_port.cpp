@@ -217,14 +217,16 @@ bool GNL_PORT::check_port_assignment(int low, int high)
         return false;
     if (!m_driver)
         return true;
-    return m_driver->is_concat_port() && !static_cast<GNL_PORT_CONCAT *>(m_driver)->has_bits_assigned(low, high);
+    return !check_if_driven_at_bits(low, high);
 }
 
 bool GNL_PORT::check_if_driven_at_bits(int low, int high)
 {
     if (!m_driver || !m_driver->is_concat_port())
         return m_driver != nullptr;
-    return static_cast<GNL_PORT_CONCAT *>(m_driver)->has_bits_assigned(low, high);
+    // What was concatenated as a whole is repeated to fill a wider port, such as that of an array.
+    auto & concat = static_cast<GNL_PORT_CONCAT &>(*m_driver);
+    return concat.is_complete() || concat.has_bits_assigned(low, high);
 }
 
 // ---- Constants

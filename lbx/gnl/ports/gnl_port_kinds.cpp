@@ -55,6 +55,8 @@ bool are_all_bits_used_on_slice(GNL_PORT & port)
     GNL_PORT * on_array = gnl_detail::port_place(port).on_array();
     if (!on_array)
         return false;
+    if (on_array->is_driven_by_constant())
+        return true;
     int const width = port.get_bus_width();
     int const index = port.get_parent()->get_slice_index();
     return on_array->check_if_driven_at_bits(width * index, width * (index + 1) - 1);

@@ -61,6 +61,8 @@ private:
         verilog_instance statement(m_array, m_text, index);
         statement.open(has_entity ? slice->get_entity_name() : m_array.get_entity_name());
         for (GNL_PORT & port : m_ports) {
+            if (has_entity && lacks(port, index))
+                continue;
             if (port.check_is_used_flag())
                 connect_whole(statement, port, index);
             else if (m_array.is_master_array())
@@ -69,6 +71,15 @@ private:
                 leave_open(statement, port);
         }
         statement.close(differs ? *slice : m_array);
+    }
+
+    /// Whether a slice's own design lacks a port that the array has: the common design drives it because another
+    /// slice's is read.
+    bool lacks(GNL_PORT & port, int index)
+    {
+        auto const * of_slice = m_slices.port(index, port.get_name());
+        return !port.is_input() && port.get_connection_level() == &m_array && of_slice != nullptr
+               && !of_slice->check_is_used_flag();
     }
 
     /// A port that is connected on the array as a whole.
@@ -142,7 +153,7 @@ private:
     {
         if (auto * driver = port.get_driver()) {
             statement.connect(port);
-            write_driver(m_text, m_parent, *driver, port);
+            write_driver(m_text, m_parent, *driver, port, port.get_bus_width() != driver->get_bus_width());
             statement.end_connection();
         } else if (has_constant(port)) {
             write_slice_constant(statement.connect(port), port.get_original_width(), port.constant_driving_value());
