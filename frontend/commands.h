@@ -40,5 +40,8 @@ int list_generators(plugin_catalogue const & catalogue, output const & out);
 int list_parameters(plugin_catalogue const & catalogue, request const & wanted, output const & out);
 int list_ports(plugin_catalogue const & catalogue, request const & wanted, output const & out);
 int generate(plugin_catalogue const & catalogue, request const & wanted, output const & out);
+/// Writes the design in the three hardware languages, to files that nobody keeps, and proves that they mean the same
+/// where the tools for it are there. One line tells the result.
+int check(plugin_catalogue const & catalogue, request const & wanted, output const & out);
 
 } // namespace lbxgen

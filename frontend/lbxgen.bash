@@ -32,10 +32,10 @@ _lbxgen() {
       --force --blackbox --library-path --list-file"
     [ "$command" = parameters ] && words="$words --all"
   elif [ -z "$command" ]; then
-    words="list parameters ports generate"
+    words="list parameters ports generate check"
   elif [ -z "$name" ] && [ "$command" != list ]; then
     words=$(_lbxgen_field list)
-  elif [ "$command" = generate ] || [ "$command" = ports ]; then
+  elif [[ $command =~ ^(generate|ports|check)$ ]]; then
     words=$(_lbxgen_field parameters "$name" | sed 's/$/=/')
     compopt -o nospace
   fi

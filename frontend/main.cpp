@@ -62,6 +62,10 @@ command_line::command_line()
     add_generator(ports);
     add_parameters(ports);
     add_generate();
+    auto & checked = *add_command("check", "Prove that the languages mean the same for a design",
+                                  [this](auto & catalogue, auto & out) { return check(catalogue, m_request, out); });
+    add_generator(checked);
+    add_parameters(checked);
 }
 
 CLI::App * command_line::add_command(char const * name, char const * summary, command action)
