@@ -40,7 +40,7 @@ GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name, param
         return;
     if (m_parent->is_in_rtl_body()) {
         m_slot = refused;
-        gnl_detail::report<gnl_detail::core_message::parameter_in_body>(*m_parent, get_hierarchical_name(),
+        gnl_detail::report<gnl_detail::core_message::parameter_in_body>(*m_parent, GNL_ELEMENT::get_hierarchical_name(),
                                                                         m_parent->get_hierarchical_name());
     } else
         m_parent->insert(this, "");

@@ -27,7 +27,7 @@ GNL_GENERATOR::GNL_GENERATOR(GNL_GENERATOR * parent, std::string const & name, c
     if (parent != this)
         return;
     parameter_text_hold const hold(*this);
-    report<core_message::parent_is_itself>(*this, get_hierarchical_name());
+    report<core_message::parent_is_itself>(*this, GNL_GENERATOR::get_hierarchical_name());
 }
 
 GNL_GENERATOR::GNL_GENERATOR(GNL_GENERATOR const & other)
