@@ -312,6 +312,96 @@ std::vector<analysed> all_designs()
             {"subdesigns_with_all_wires", subdesigns_that_share, one_file + ",LBX_REMOVE_OPTIONAL_WIRES=OFF"}};
 }
 
+/// A text that a tool objects to, and that stays as it is.
+struct refused
+{
+    std::string name;
+    void (*build)(design & top);
+    std::string options;
+    std::string complaint;
+};
+
+void PrintTo(refused const & shown, std::ostream * out)
+{
+    *out << shown.name;
+}
+
+void signed_port(design & top)
+{
+    auto & y = top.output("y", 4);
+    y.set_port_is_signed();
+    top.body = [&](design &) { y = 1; };
+}
+
+void option_of_a_port(design & top)
+{
+    auto & y = top.output("y");
+    top.body = [&](design &) {
+        y.set_qelvar_internal_option("FAST=ON");
+        y = 1;
+    };
+}
+
+void parameter_without_a_value(design & top)
+{
+    top.body = [](design & of) {
+        auto & one = cell(of, "blk", "u");
+        one.integer("depth");
+        one.input("a") = 1;
+    };
+}
+
+void rows_of_an_output(design & top)
+{
+    auto & y = top.output("y", 12);
+    top.body = [&](design & of) {
+        auto & one = cell(of, "blk", "u");
+        one.integer("ROWS", 3) = 3;
+        one.integer("BITS", 4) = 4;
+        y = *new GNL_PORT_OUTPUT(&one, "q", std::string("ROWS"), "BITS");
+    };
+}
+
+void rows_of_slices(design & top)
+{
+    auto & x = top.input("x", 24);
+    top.body = [&](design & of) {
+        auto & array = cell(of, "blk", "u", 2);
+        auto & a = *new GNL_PORT_INPUT(&array, "a", 3, 4);
+        a = x;
+    };
+}
+
+void expression_of_an_instance(design & top)
+{
+    auto & x = top.input("x");
+    top.body = [&](design & of) { cell(of, "blk", "u").input("a") = ~x; };
+}
+
+std::vector<refused> refused_designs()
+{
+    std::string const one_file = "LBX_FILE=top.vhd";
+    return {
+        // The author names the package of the type among the libraries of a cell.
+        {"signed_port", signed_port, one_file, "no declaration for \"signed\""},
+        // Synthesis takes the options of ports where it takes those of signals.
+        {"option_of_a_port", option_of_a_port, one_file, "attribute for port \"y\" must be specified in the entity"},
+        // There is nothing that the component could say instead.
+        {"parameter_without_a_value", parameter_without_a_value, one_file,
+         "no actual for constant interface \"depth\""},
+        // Only inputs have a signal in two dimensions, and only for one instance.
+        {"rows_of_an_output", rows_of_an_output, one_file, "can't associate 'wire_u_q' with signal interface \"q\""},
+        {"rows_of_slices", rows_of_slices, one_file, "actual constraints don't match formal ones"},
+        // Who turns the signals of inputs off has a tool that reads the newer language.
+        {"expression_of_an_instance", expression_of_an_instance, one_file + ",LBX_NO_VHDL_SUBDES_CONCAT_WIRES=ON",
+         "actual expression must be globally static"},
+    };
+}
+
+class VhdlRefusal : public in_folder, public ::testing::WithParamInterface<refused>
+{
+};
+
 class VhdlAnalysis : public in_folder, public ::testing::WithParamInterface<analysed>
 {
 };
@@ -331,4 +421,18 @@ TEST_P(VhdlAnalysis, FindsNothing)
 }
 
 INSTANTIATE_TEST_SUITE_P(Designs, VhdlAnalysis, ::testing::ValuesIn(all_designs()),
+                         [](auto const & tried) { return tried.param.name; });
+
+TEST_P(VhdlRefusal, IsKnown)
+{
+    SKIP_WITHOUT("ghdl");
+    design top(nullptr, "top", GetParam().options.c_str());
+    GetParam().build(top);
+    top.run();
+    ASSERT_EQ(top.messages(), texts{});
+    auto const found = run_command("ghdl -a --std=93c top.vhd");
+    EXPECT_NE(found.text.find(GetParam().complaint), std::string::npos) << found.text << file_text("top.vhd");
+}
+
+INSTANTIATE_TEST_SUITE_P(Designs, VhdlRefusal, ::testing::ValuesIn(refused_designs()),
                          [](auto const & tried) { return tried.param.name; });
