@@ -245,9 +245,9 @@ TEST_F(VerilogParameterSection, SimulationOnlyParametersPreferTheObject)
     u.add_simulation_only_parameter("count", "1");
     u.add_simulation_only_parameter("mode", "slow");
     EXPECT_EQ(parameters(u, true), "\tdefparam\n"
-                                   "\t\tmg.count = 9,\n"
-                                   "\t\tmg.free = \"Value\",\n"
-                                   "\t\tmg.mode = \"Fast\",\n"
+                                   "\t\tu.count = 9,\n"
+                                   "\t\tu.free = \"Value\",\n"
+                                   "\t\tu.mode = \"Fast\",\n"
                                    "\t\tmg.lpm_type = \"blk\";\n");
     u.reset_primitive_state();
     EXPECT_EQ(parameters(u), "");

@@ -54,7 +54,8 @@ public:
     }
 
 private:
-    text_sink & entry() { return m_text << m_list << "\t\t" << m_prefix; }
+    text_sink & entry() { return entry(m_prefix); }
+    text_sink & entry(std::string const & prefix) { return m_text << m_list << "\t\t" << prefix; }
     std::string written_name(std::string const & name) const
     {
         return m_instance.preserves_parameter_case() ? name : folded(name);
@@ -109,11 +110,13 @@ private:
             m_text << static_cast<int>(digits.size()) * 4 << "'h" << digits;
         }
     }
+    /// Like arrays, these are addressed by the instance's own name, whatever name is asked for.
     void assign_simulation_only(std::string const & name, std::string const & listed)
     {
         auto const value = simulation_only_value_of(m_instance, name, listed);
         std::string_view const quote = value.is_number ? "" : "\"";
-        entry() << written_name(name) << " = " << quote << value.text << quote;
+        entry(instance_prefix(m_instance, false, m_slice_index))
+            << written_name(name) << " = " << quote << value.text << quote;
     }
 
     /// A cell that stands for another one tells it which of its ports are connected.

@@ -1,0 +1,163 @@
+// Cells in whole files: cells that are declared at run time, and cells that write themselves.
+
+#include "golden_run.h"
+
+using namespace gnl_test;
+
+namespace {
+
+using GoldenCells = in_folder;
+
+/// A memory with parameters of every kind, open and tied ports, and ports and parameters of its simulation model.
+GNL_PRIMITIVE & ram(design & top, GNL_PARAMETER_INTEGER & words)
+{
+    auto & cell = *new GNL_PRIMITIVE(&top, "ram_block", "iname=u_ram");
+    cell.add_input_port_to_primitive("addr", 4, -1);
+    cell.add_input_port_to_primitive("ce", 0, 1);
+    cell.add_input_port_to_primitive("mask", 2, 0);
+    cell.add_input_port_to_primitive("mode", 0, 2);
+    cell.add_output_port_to_primitive("parity", 0, -1);
+    cell.add_output_port_to_primitive("q", "2*DEPTH", "");
+
+    *cell.add_integer_parameter_to_primitive("DEPTH") = 4;
+    *cell.add_integer_parameter_to_primitive("NWORDS") = words.get_parameter() * 2;
+    auto & width = *cell.add_integer_parameter_to_primitive("WIDTH");
+    width.set_output_as_string_parameter();
+    width = 8;
+    auto & hinted = *cell.add_integer_parameter_to_primitive("HINTED");
+    hinted.set_as_lpm_hint();
+    hinted = 3;
+    *cell.add_string_parameter_to_primitive("lpm_hint") = "A=1";
+    *cell.add_string_parameter_to_primitive("MODE") = "Fast";
+    cell.add_string_parameter_to_primitive("UNSET");
+    *cell.add_vector_parameter_to_primitive("INIT", 12) = "0x5A";
+    auto & mask = *cell.add_vector_parameter_to_primitive("MASK", 5);
+    mask.set_to_use_binary_output();
+    mask = 5;
+
+    auto & latency = *cell.add_integer_parameter_to_primitive("LATENCY");
+    latency.set_as_not_included_in_declaration();
+    latency = 2;
+    cell.add_simulation_only_parameter("LATENCY", "1");
+    cell.add_simulation_only_parameter("SIM_FILE", "init.hex");
+    cell.add_simulation_only_port("ce", "0"); // is a real port as well
+    cell.add_simulation_only_port("probe", "");
+    cell.add_simulation_only_port("trace", "0");
+    return cell;
+}
+
+/// An array of two whose open input is tied for synthesis too.
+GNL_PRIMITIVE & taps(design & top)
+{
+    auto & cells = *new GNL_PRIMITIVE(&top, "tap_cell", "iname_nochange=taps", 2);
+    cells.add_input_port_to_primitive("a", 0, -1);
+    cells.add_input_port_to_primitive("en", 0, 1);
+    cells.add_output_port_to_primitive("o", 0, -1);
+    cells.set_preserve_parameter_case();
+    cells.set_use_lower_case_verilog_parameter_values();
+    cells.set_connect_default_input_ports_in_verilog_for_synthesis();
+    *cells.add_string_parameter_to_primitive("Kind") = "SLOW";
+    return cells;
+}
+
+/// A cell that writes itself, unless its MODE is 7.
+class inverter : public GNL_GENERATOR
+{
+public:
+    inverter(GNL_GENERATOR * parent, std::string const & instance, int size = 0)
+        : GNL_GENERATOR(parent, "inv", "", size)
+        , a(this, "a")
+        , o(this, "o")
+        , mode(this, "MODE", 0)
+    {
+        set_primitive();
+        dont_generate_file();
+        set_custom_subdesign_insert_mode();
+        set_use_custom_verilog_output();
+        set_instance_name(instance);
+    }
+
+    void customize_declaration_from_parameters() override
+    {
+        if (mode.get_value() == 7)
+            disable_custom_output();
+    }
+    void dump_verilog_custom_wires(std::ostream & out) override
+    {
+        out << "\twire\t";
+        if (o.get_width() > 0)
+            out << "[" << o.get_width() - 1 << ":0]\t";
+        out << o.get_source_name(true) << ";\n";
+    }
+    void dump_verilog_custom_output(std::ostream & out, GNL_GENERATOR * parent) override
+    {
+        if (get_slice_index() >= 0) {
+            out << "\t// " << get_instance_name() << "[" << get_slice_index() << "] in " << parent->get_name() << "\n";
+            return;
+        }
+        out << "\tassign\t" << o.get_source_name(true) << " = ~";
+        a.get_driver()->dump_port_description(out, parent, false, nullptr);
+        out << ";\n";
+    }
+    void create_self_copy(GNL_GENERATOR * parent, int index, std::string const & instance_name) override
+    {
+        auto & slice = *new inverter(parent, "");
+        slice.set_slice_index(index);
+        slice.set_array_parent(parent);
+        slice.set_instance_name(instance_name);
+    }
+
+    GNL_PORT_INPUT a;
+    GNL_PORT_OUTPUT o;
+    GNL_PARAMETER_INTEGER mode;
+};
+
+} // namespace
+
+TEST_F(GoldenCells, DeclaredAtRunTime)
+{
+    design top(nullptr, "top", "LBX_FILE=top.v,N=6");
+    auto & d = top.input("d", 4);
+    auto & f = top.output("f", 2);
+    auto & q = top.output("q", 8);
+    auto & words = top.integer("N", 4);
+    words.set_as_parameterized();
+    std::unique_ptr<GNL_PARAMETER_INTEGER_ARRAY> coefficients;
+    std::unique_ptr<GNL_PARAMETER_STRING_ARRAY> labels;
+    top.body = [&](design &) {
+        auto & memory = ram(top, words);
+        coefficients = std::make_unique<GNL_PARAMETER_INTEGER_ARRAY>(&memory, "COEF", -1);
+        labels = std::make_unique<GNL_PARAMETER_STRING_ARRAY>(&memory, "LABEL", "", -1);
+        (*coefficients)[3] = 9;
+        (*coefficients)[0] = 7;
+        (*labels)[1] = "Late";
+        memory.port("addr") = d;
+        q = memory.port("q");
+        auto & cells = taps(top);
+        cells.port("a") = d.range(1, 0);
+        f = cells.port("o");
+    };
+    EXPECT_TRUE(writes_golden(top, "run_time_cells.v"));
+}
+
+TEST_F(GoldenCells, ThatWriteThemselves)
+{
+    design top(nullptr, "top", "LBX_FILE=top.v");
+    auto & d = top.input("d", 6);
+    auto & y = top.output("y", 6);
+    top.body = [&](design &) {
+        auto & single = *new inverter(&top, "x1");
+        auto & even = *new inverter(&top, "x2", 2);
+        auto & uneven = *new inverter(&top, "x3", 2);
+        auto & plain = *new inverter(&top, "x4");
+        even[0];
+        static_cast<inverter &>(uneven[1]).mode = 2;
+        plain.mode = 7;
+        single.a = d[0];
+        even.a = d.range(2, 1);
+        uneven.a = d.range(4, 3);
+        plain.a = d[5];
+        y = (plain.o, uneven.o, even.o, single.o);
+    };
+    EXPECT_TRUE(writes_golden(top, "custom_cells.v"));
+}
