@@ -13,7 +13,13 @@ struct vhdl_pin
     int width; ///< 0 for a STD_LOGIC
 };
 
-/// What the entity's text in `file` says about its pins: those that were declared as vectors of one element.
+/// The words that a pin's name gets a prefix for.
+inline std::string vhdl_name(std::string const & name)
+{
+    return name == "in" || name == "out" || name == "abs" ? "a_" + name : name;
+}
+
+/// How the entity's text in `file` declares the pins.
 inline std::vector<vhdl_pin> vhdl_pins(std::vector<pin> const & pins, std::string const & file,
                                        std::string const & entity)
 {
@@ -25,11 +31,12 @@ inline std::vector<vhdl_pin> vhdl_pins(std::vector<pin> const & pins, std::strin
     auto const text = all.substr(start, all.find(" END " + entity, start) - start);
     std::vector<vhdl_pin> found;
     for (auto const & one : pins) {
-        auto const at = text.find("\t\t " + one.name + "\t:\t");
+        auto const name = vhdl_name(one.name);
+        auto const at = text.find("\t\t " + name + "\t:\t");
         if (at == std::string::npos)
-            throw std::runtime_error("no port " + one.name + " in " + text);
+            throw std::runtime_error("no port " + name + " in " + text);
         auto const line = text.substr(at, text.find('\n', at) - at);
-        found.push_back({one.name, line.find(" DOWNTO ") == std::string::npos ? 0 : one.width});
+        found.push_back({name, line.find(" DOWNTO ") == std::string::npos ? 0 : one.width});
     }
     return found;
 }

@@ -9,6 +9,13 @@
 
 namespace gnl_detail {
 
+/// Whether the design of a slice that differs from the others may lack a port: an output that nobody reads, which the
+/// design of the others drives.
+inline bool slice_may_lack(GNL_PORT const & of_slice)
+{
+    return of_slice.is_output() && !of_slice.check_is_used_flag();
+}
+
 /// The slices of an array by index, looked up once. An array that was never indexed has none, and a slice can be
 /// missing when an author's class doesn't make it.
 class array_slices

@@ -131,10 +131,11 @@ GNL_GENERATOR::dump_vhdl_array_type_declarations(std::ostream & out,
 
 namespace {
 
-/// Whether a slice is an entity that differs from that of its array.
+/// Whether a slice is an entity that differs from that of its array. A slice that was never generated has none.
 bool has_own_entity(GNL_GENERATOR & slice, std::string const & common_settings)
 {
-    return slice.is_heterogeneous_element() || !equal_folded(slice.dump_header(false), common_settings);
+    return slice.is_heterogeneous_element()
+           || (!slice.get_entity_name().empty() && !equal_folded(slice.dump_header(false), common_settings));
 }
 
 } // namespace

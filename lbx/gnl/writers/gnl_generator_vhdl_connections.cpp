@@ -55,7 +55,7 @@ public:
                 assign_bidir(*port);
             else if (auto * input = as_input(*port))
                 assign_input(*input);
-            else if (port->port_is_a_driver() && is_loop_signal(*port, &m_design))
+            else if (is_read_loop_signal(*port, &m_design))
                 m_assign.assign_loop_signal(*port, loop_signal_width(*port));
         }
     }

@@ -47,7 +47,7 @@ public:
 private:
     void write_expression(GNL_PORT & port)
     {
-        if (is_loop_signal(port, &m_level))
+        if (is_read_loop_signal(port, &m_level))
             m_assign.assign_loop_signal(port, loop_signal_width(port));
     }
     void feed(GNL_PORT & port)
@@ -91,8 +91,9 @@ private:
         auto const name = port.get_source_name(true);
         int const slices = m_subdesign.get_array_width();
         int const slice_width = declared_slice_width(port);
-        bool const shared =
-            slices > 1 && !port.need_to_create_vhdl_loop() && driver.get_bus_width() == std::max(slice_width, 1);
+        bool const is_stretched =
+            port.need_to_create_vhdl_loop() && (driver.is_simple_port() || driver.is_range_port());
+        bool const shared = slices > 1 && !is_stretched && driver.get_bus_width() == std::max(slice_width, 1);
         if (shared)
             m_assign.repeat(name, slice_width, slices, driver);
         else

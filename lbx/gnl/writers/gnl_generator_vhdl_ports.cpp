@@ -172,7 +172,7 @@ void GNL_GENERATOR::dump_vhdl_port_section_for_wrapper(std::ostream & out)
     text_sink text(out);
     auto list = component_ports();
     for (GNL_PORT & port : m_registry->ports()) {
-        if (!is_pin(port) || !port.is_used())
+        if (!is_pin(port) || !port.is_used() || (is_heterogeneous_element() && slice_may_lack(port)))
             continue;
         text << list;
         declare_fixed_port(text, port, direction_of(port));

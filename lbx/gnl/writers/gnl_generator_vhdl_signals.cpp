@@ -33,7 +33,7 @@ void declare_wire(text_sink & text, GNL_WIRE & wire)
 void declare_own_signal(text_sink & text, GNL_GENERATOR const & design, GNL_PORT & port)
 {
     if (!port.is_simple_port()) {
-        if (port.port_is_a_driver() && is_loop_signal(port, &design))
+        if (is_read_loop_signal(port, &design))
             declare_vhdl_signal(text, port.get_source_name(true), loop_signal_width(port)) << ";\n";
         return;
     }

@@ -97,7 +97,7 @@ private:
 
     void declare(GNL_PORT & port)
     {
-        if (is_loop_signal(port, m_level))
+        if (is_read_loop_signal(port, m_level))
             declare_loop_signal(m_text, port);
         else if (port.check_is_used_flag())
             declare_whole(port);
@@ -174,7 +174,7 @@ void GNL_GENERATOR::dump_vhdl_wires_for_slice(std::ostream & out, GNL_GENERATOR 
 {
     text_sink text(out);
     for (auto * port : m_registry->all_ports()) {
-        if (is_loop_signal(*port, parent))
+        if (is_read_loop_signal(*port, parent))
             declare_loop_signal(text, *port);
         else if (is_constant_input(*port) && port->check_is_used_flag() && !port_place(*port).connected_as_whole())
             declare_constant(text, *port, signals);

@@ -216,18 +216,24 @@ private:
         instance_statement statement(m_level, m_text, m_signals);
         statement.open("\t", m_subdesign.get_instance_name(), index,
                        differs ? slice->get_entity_name() : m_subdesign.get_entity_name());
-        write_body(statement, differs ? *slice : m_subdesign, {m_subdesign.get_array_width(), index});
+        write_body(statement, differs ? *slice : m_subdesign, {m_subdesign.get_array_width(), index},
+                   differs && !m_subdesign.is_primitive());
     }
 
-    void write_body(instance_statement & statement, GNL_GENERATOR & parameters_of, instance_place place)
+    void write_body(instance_statement & statement, GNL_GENERATOR & parameters_of, instance_place place,
+                    bool has_own_design = false)
     {
         if (m_is_cell)
             statement.map_generics(parameters_of);
-        for (auto * port : m_ports)
+        for (auto * port : m_ports) {
+            if (auto * own = has_own_design ? m_slices.port(place.index, port->get_name()) : nullptr;
+                own != nullptr && slice_may_lack(*own))
+                continue;
             if (port->check_is_used_flag())
                 statement.connect(*port, place);
             else if (place.index >= 0)
                 connect_of_slice(statement, *port, place.index);
+        }
         statement.close();
     }
     /// A port that the array as a whole doesn't connect: what the slice's own port of the name says.

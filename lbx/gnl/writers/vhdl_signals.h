@@ -16,6 +16,11 @@ bool is_vhdl_library_cell(GNL_GENERATOR & subdesign);
 /// Whether `port`, an expression, a range or a concatenation, is a signal of its own in the text of `level`, because
 /// somebody needs its bits one by one.
 bool is_loop_signal(GNL_PORT const & port, GNL_GENERATOR const * level);
+/// Whether it is written. What nobody reads may be made of wires that were taken out.
+inline bool is_read_loop_signal(GNL_PORT const & port, GNL_GENERATOR const * level)
+{
+    return port.port_is_a_driver() && is_loop_signal(port, level);
+}
 /// The width of that signal: a vector also for one bit, but a range of one bit is a bit (0).
 int loop_signal_width(GNL_PORT & port);
 
