@@ -1,8 +1,9 @@
 #pragma once
 
-// An example generator with one setting of its parameters, and what is tried with each: it is generated as Verilog and
-// as VHDL, compiled, linted and simulated against a model.
+// An example generator with one setting of its parameters, and what is tried with each: it is generated as Verilog,
+// as VHDL and QHDL, compiled, linted and simulated against a model.
 
+#include "qhdl/qhdl_reader.h"
 #include "support.h"
 #include "verilog_simulation.h"
 #include "vhdl_simulation.h"
@@ -96,6 +97,15 @@ inline void simulate_vhdl_like_the_model(example const & tried)
     compare_with_the_model(tried, [&](std::vector<vector_of_pins> const & stimulus) {
         return vhdl_simulation(tried.name, tried.inputs, tried.outputs).run(files, top_file, stimulus);
     });
+}
+
+/// Translates the generated QHDL files of the working folder and simulates what comes out.
+inline void simulate_qhdl_like_the_model(example const & tried)
+{
+    qhdl::reader designs;
+    designs.add_folder(".");
+    std::ofstream("translated.v") << designs.verilog();
+    simulate_like_the_model(tried, "translated.v");
 }
 
 /// What the linter says about the generated files, "" when it is content.

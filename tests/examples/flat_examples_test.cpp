@@ -138,6 +138,13 @@ TEST_P(FlatExamples, SimulateInVhdlLikeTheirModel)
     simulate_vhdl_like_the_model(GetParam());
 }
 
+TEST_P(FlatExamples, SimulateInQhdl)
+{
+    SKIP_WITHOUT("iverilog");
+    generate_cleanly(GetParam(), "", ".tdf");
+    simulate_qhdl_like_the_model(GetParam());
+}
+
 TEST_P(FlatExamples, AreCleanForTheLinter)
 {
     SKIP_WITHOUT("verilator");

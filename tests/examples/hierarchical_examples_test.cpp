@@ -119,6 +119,14 @@ TEST_P(HierarchicalExamples, SimulateInVhdlAsAFileForEachDesign)
     simulate_vhdl_like_the_model(GetParam());
 }
 
+TEST_P(HierarchicalExamples, SimulateInQhdl)
+{
+    SKIP_WITHOUT("iverilog");
+    generate_cleanly(GetParam(), "", ".tdf");
+    EXPECT_NE(std::distance(fs::directory_iterator("."), fs::directory_iterator()), 1);
+    simulate_qhdl_like_the_model(GetParam());
+}
+
 TEST_P(HierarchicalExamples, AreCleanForTheLinter)
 {
     SKIP_WITHOUT("verilator");
