@@ -320,10 +320,13 @@ TEST_F(SubdesignName, FixedNamesOfOneFileAreMadeUniqueByNumbers)
 
 TEST_F(SubdesignName, FixedNamesOfFilesAreMadeUniqueByNumbers)
 {
-    EXPECT_EQ(
-        entities("LBX_FILE=top.v,LBX_MODULE_PREFIX=chip,LBXI_INSTANCE_NAME=core,LBX_SINGLE_OUTPUT_FILE=OFF", {"1"}),
-        texts{"top_chip_mg"});
-    EXPECT_TRUE(fs::exists("top_chip_mg.v"));
+    auto const options = "LBX_FILE=top.v,LBX_MODULE_PREFIX=chip,LBXI_INSTANCE_NAME=core,LBX_SINGLE_OUTPUT_FILE=OFF";
+    texts const names{"top_chip_mg", "top_chip_mg1", "top_chip_mg2", "top_chip_mg1"};
+    EXPECT_EQ(entities(options, {"1", "2", "3", "2"}), names);
+    for (char const * file : {"top_chip_mg.v", "top_chip_mg1.v", "top_chip_mg2.v"})
+        EXPECT_TRUE(fs::exists(file)) << file;
+    EXPECT_EQ(entities(options, {"1", "2", "3", "2"}), names) << "a second run finds its files again";
+    EXPECT_EQ(entities(options, {"4", "2"}), (texts{"top_chip_mg", "top_chip_mg1"})) << "what changed is overwritten";
 }
 
 TEST_F(SubdesignName, TheTopsNameIsNotRepeatedInAFixedName)

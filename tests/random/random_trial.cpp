@@ -38,7 +38,10 @@ std::string trial::options(std::string const & extension) const
     auto const common = "LBX_OUTPUT_DIRECTORY=" + m_name + ",LBX_FILE=" + m_name + extension;
     switch (m_design.seed % 6) {
     case 0:
-        return common + ",LBX_MODULE_PREFIX=" + m_name + ",LBXI_INSTANCE_NAME=" + m_name; // a file for each child
+        if (extension == ".tdf")
+            return common; // QHDL has no prefixes
+        return common + ",LBX_SINGLE_OUTPUT_FILE=OFF,LBX_MODULE_PREFIX=" + m_name
+               + ",LBXI_INSTANCE_NAME=" + m_name; // a file for each child
     case 1:
         return common + ",LBX_SINGLE_OUTPUT_FILE=ON,LBX_STRUCTURAL_NETLIST=ON";
     case 2:

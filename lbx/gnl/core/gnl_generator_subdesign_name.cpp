@@ -175,6 +175,9 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_folder()
         auto const path = folder + name(m_seed) + ending;
         if (is_name_of_top(name(m_seed)) || m_top.subdesign_names().is_begun(path))
             continue;
+        // An instance may overwrite its file of an earlier run, but not that of another design of this run.
+        if (m_fixed && m_top.subdesign_names().is_used_by_other(path, m_settings))
+            continue;
         int const result = compare_with_file(path);
         if (result == 2) {
             note_other_file(space, path);
@@ -182,6 +185,8 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_folder()
         }
         if (result == 1 && !m_generator.forced_file_generation())
             m_generator.dont_generate_file();
+        if (m_generator.get_parent())
+            m_top.subdesign_names().use_file(path, m_settings);
         return name(m_seed);
     }
 }

@@ -124,6 +124,7 @@ void subdesign_names::file_removed(std::string const & path)
 {
     m_begun.erase(path);
     m_files.erase(path);
+    m_users.erase(path);
     release(path);
 }
 

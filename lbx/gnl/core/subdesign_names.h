@@ -55,6 +55,13 @@ public:
     void file_written(std::string const & path, std::string const & settings);
     void file_removed(std::string const & path);
     bool is_written(std::string const & path) const { return m_files.contains(path); }
+    /// A design of this run has its text in the file, be it written now or reused.
+    void use_file(std::string const & path, std::string const & settings) { m_users.try_emplace(path, settings); }
+    bool is_used_by_other(std::string const & path, std::string const & settings) const
+    {
+        auto const user = m_users.find(path);
+        return user != m_users.end() && user->second != settings;
+    }
     /// The result of an earlier comparison with `question`, 0 without one.
     int known_result(std::string const & path, std::string const & question) const;
     void keep_result(std::string const & path, std::string const & question, int result);
@@ -69,6 +76,7 @@ private:
 
     std::map<name_pattern, seed_space> m_spaces;
     std::unordered_set<std::string> m_begun;
+    std::unordered_map<std::string, std::string> m_users;                          ///< path to settings
     std::unordered_map<std::string, std::unordered_map<std::string, int>> m_files; ///< path to results by question
 };
 
