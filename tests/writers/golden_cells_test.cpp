@@ -28,12 +28,12 @@ GNL_PRIMITIVE & ram(design & top, GNL_PARAMETER_INTEGER & words)
     hinted.set_as_lpm_hint();
     hinted = 3;
     *cell.add_string_parameter_to_primitive("lpm_hint") = "A=1";
-    *cell.add_string_parameter_to_primitive("MODE") = "Fast";
+    *cell.add_string_parameter_to_primitive("SPEED") = "Fast";
     cell.add_string_parameter_to_primitive("UNSET");
     *cell.add_vector_parameter_to_primitive("INIT", 12) = "0x5A";
-    auto & mask = *cell.add_vector_parameter_to_primitive("MASK", 5);
-    mask.set_to_use_binary_output();
-    mask = 5;
+    auto & bits = *cell.add_vector_parameter_to_primitive("BITS", 5);
+    bits.set_to_use_binary_output();
+    bits = 5;
 
     auto & latency = *cell.add_integer_parameter_to_primitive("LATENCY");
     latency.set_as_not_included_in_declaration();

@@ -52,11 +52,11 @@ module  top
 	// synopsys translate_on
 	);
 	defparam
+		u_ram.bits = 5'b00101,
 		u_ram.depth = 4,
 		u_ram.init = 12'h05A,
-		u_ram.mask = 5'b00101,
-		u_ram.mode = "Fast",
 		u_ram.nwords = (N * 2),
+		u_ram.speed = "Fast",
 		u_ram.width = "8",
 		u_ram.coef0 = 7,
 		u_ram.coef3 = 9,
