@@ -9,6 +9,7 @@
 #include "lbx/gnl/writers/vhdl_statements.h"
 
 #include <array>
+#include <sstream>
 
 using namespace gnl_detail;
 
@@ -69,9 +70,23 @@ private:
     void assign_bidir(GNL_PORT & port)
     {
         auto * driver = driver_at(port, &m_design);
-        bool const joined = driver != nullptr && driver->is_bidir() && port.has_special_bidir_driver();
-        if (!joined)
+        if (driver == nullptr || !port.has_special_bidir_driver())
             assign_sink(port, driver, has_constant_at(port, &m_design), false);
+        else if (driver->is_concat_port())
+            assign_pieces(port, static_cast<GNL_PORT_CONCAT &>(*driver));
+    }
+    /// The pieces that meet a subdesign's bidirectional port do so in its instance; the others are assigned.
+    void assign_pieces(GNL_PORT & port, GNL_PORT_CONCAT & pieces)
+    {
+        for (int i = 0; i < pieces.get_element_count(); ++i) {
+            auto const & piece = *pieces.get_concat_element(i);
+            if (piece.port->is_bidir() || !check_driver(m_design, port, *piece.port))
+                continue;
+            std::ostringstream name;
+            text_sink(name) << port.get_source_name(false) << vhdl_range{piece.high_index, piece.low_index};
+            int const bits = piece.high_index - piece.low_index + 1;
+            m_assign.assign(name.str(), bits == 1 ? 0 : bits, nullptr, *piece.port);
+        }
     }
     void assign_sink(GNL_PORT & port, GNL_PORT * driver, bool is_constant, bool may_take_default)
     {
