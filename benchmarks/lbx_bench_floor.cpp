@@ -132,11 +132,39 @@ void write_bits(netlist const & design, text_buffer & out)
             out << bit.name << ", ";
 }
 
-bench::run_result run(std::string const & workload, int n)
+/// N small files written, then opened again and read to their first line.
+bench::run_result write_and_read_files(int n)
 {
     namespace fs = std::filesystem;
+    auto const folder = fs::temp_directory_path() / ("lbx-floor-" + std::to_string(getpid()));
+    fs::create_directory(folder);
+    auto const path = [&](int i) { return (folder / ("mg" + std::to_string(i) + ".v")).string(); };
+    bench::run_result result;
+    auto start = bench::clock::now();
+    for (int i = 0; i < n; ++i) {
+        text_buffer text;
+        text << "//child K=" << i << " clk d q\n" << std::string(1000, ' ');
+        result.bytes_written += text.write(path(i));
+    }
+    result.build_seconds = bench::seconds_since(start);
+    start = bench::clock::now();
+    std::string line;
+    for (int i = 0; i < n; ++i) {
+        std::ifstream file(path(i));
+        std::getline(file, line);
+    }
+    result.write_seconds = bench::seconds_since(start);
+    fs::remove_all(folder);
+    return result;
+}
+
+bench::run_result run(std::string const & workload, int n)
+{
+    if (workload == "W2r")
+        return write_and_read_files(n);
+    namespace fs = std::filesystem;
     bool const flat = workload == "W1" || workload == "W5s";
-    bool const instances = workload == "W2a" || workload == "W2b";
+    bool const instances = workload == "W2a" || workload == "W2b" || workload == "W2s";
     bench::run_result result;
     auto start = bench::clock::now();
     netlist design;

@@ -7,12 +7,13 @@ bin=$1
 shift
 runs=${RUNS:-5}
 workloads=("$@")
-[ ${#workloads[@]} -gt 0 ] || workloads=(W1 W2a W2b W3 W4 W5 W5s)
+[ ${#workloads[@]} -gt 0 ] || workloads=(W1 W2a W2b W2s W2r W3 W4 W5 W5s)
 
 sizes() {
   case $1 in
     W1) echo 1000 10000 100000 1000000 ;;
-    W2a | W2b) echo 100 1000 10000 100000 ;;
+    W2a | W2b | W2s) echo 100 1000 10000 100000 ;;
+    W2r) echo 100 1000 ;;
     W3) echo 100 1000 10000 100000 ;;
     W4) echo 100 1000 10000 ;;
     W5) echo 6 12 18 ;;
