@@ -323,6 +323,51 @@ TEST_F(VhdlArrays, AScalarArrayTakesARangeOfSeveralBits)
                                   "\tEND GENERATE loop0;\n");
 }
 
+TEST_F(VhdlArrays, ALoopHidesNoSignal)
+{
+    auto & i = used_input(top, "I", 4);
+    auto & j = used_input(top, "j");
+    auto & loop_i = used_input(top, "loop_i");
+    auto & y = top.output("y", 4);
+    auto & z = top.output("z", 8);
+    auto & arr = array_of(2, [](design & of) { of.input("a", 4); });
+    auto & rows = *new GNL_PORT_INPUT(&top.cell("u"), "a", 2, 2);
+    top.connect([&] {
+        y = i & j;
+        z = i;
+        arr.port("a") = (i, i);
+        rows = i | loop_i;
+    });
+    EXPECT_EQ(statements_of(top), "\tloop0 : FOR loop_loop_i IN 0 TO 3 GENERATE \n"
+                                  "\t\twire_w_lg_I1w(loop_loop_i) <= I(loop_loop_i) AND j;\n"
+                                  "\tEND GENERATE loop0;\n"
+                                  "\tloop1 : FOR loop_loop_i IN 0 TO 3 GENERATE \n"
+                                  "\t\twire_w_lg_I3w(loop_loop_i) <= I(loop_loop_i) OR loop_i;\n"
+                                  "\tEND GENERATE loop1;\n"
+                                  "\twire_w_I_I2w <= ( I & I);\n"
+                                  "\ty <= wire_w_lg_I1w;\n"
+                                  "\tloop2 : FOR loop_loop_i IN 0 TO 7 GENERATE\n"
+                                  "\t\tz(loop_loop_i) <= I(loop_loop_i/2) ;\n"
+                                  "\tEND GENERATE loop2;\n"
+                                  "\twire_arr_a <= ( I & I);\n"
+                                  "\tloop3 : FOR loop_loop_i IN 0 TO 1 GENERATE \n"
+                                  "\t  arr :  blk\n"
+                                  "\t  PORT MAP ( \n"
+                                  "\t\ta => wire_arr_a(loop_loop_i*4+3 DOWNTO loop_loop_i*4)\n"
+                                  "\t  );\n"
+                                  "\tEND GENERATE loop3;\n"
+                                  "\twire_u_a <= wire_w_lg_I3w;\n"
+                                  "\tloop4 : FOR loop_loop_i IN 0 TO 1 GENERATE\n"
+                                  "\t\tloop5 : FOR loop_j IN 0 TO 1 GENERATE\n"
+                                  "\t\t\twire_u_a_2d(loop_loop_i, loop_j) <= wire_u_a(loop_loop_i*2+loop_j);\n"
+                                  "\t\tEND GENERATE loop5;\n"
+                                  "\tEND GENERATE loop4;\n"
+                                  "\tu :  blk\n"
+                                  "\t  PORT MAP ( \n"
+                                  "\t\ta => wire_u_a_2d\n"
+                                  "\t  );\n");
+}
+
 // ---- Slice by slice
 
 TEST_F(VhdlUnrolledArrays, SlicesConnectWhatTheArrayDoesNot)

@@ -25,14 +25,14 @@ std::string shifted(std::string_view variable, int low)
     return low == 0 ? "(" + std::string(variable) + ")" : "(" + std::string(variable) + "+" + std::to_string(low) + ")";
 }
 
-/// The assignment of one bit of an expression, inside a loop over `i` or alone.
+/// The assignment of one bit of an expression, inside a loop over `variable` or, without one, alone.
 class bit_assignment
 {
 public:
-    bit_assignment(std::ostream & out, GNL_GENERATOR * level, bool in_loop)
+    bit_assignment(std::ostream & out, GNL_GENERATOR * level, std::string variable)
         : m_out(out)
         , m_level(level)
-        , m_in_loop(in_loop)
+        , m_variable(std::move(variable))
     {
     }
 
@@ -40,13 +40,16 @@ public:
 
 private:
     /// The index of a bit that stands `low` above the first of a signal.
-    std::string index(int low) const { return m_in_loop ? shifted("i", low) : "(" + std::to_string(low) + ")"; }
+    std::string index(int low) const
+    {
+        return m_variable.empty() ? "(" + std::to_string(low) + ")" : shifted(m_variable, low);
+    }
     void write_range(GNL_PORT_OUTPUT_RANGE & range) const;
     void write_simple(GNL_PORT & port) const;
 
     std::ostream & m_out;
     GNL_GENERATOR * m_level;
-    bool m_in_loop;
+    std::string m_variable;
 };
 
 void bit_assignment::write_operand(GNL_PORT & operand) const
@@ -97,11 +100,13 @@ void GNL_PORT_LOGIC::dump_vhdl_for_generate_loop(std::ostream & out, GNL_GENERAT
 {
     bool const in_loop = get_width() > 1;
     std::string const label = in_loop && get_parent() ? get_parent()->generate_loop_name() : std::string();
+    std::string const variable = in_loop ? vhdl_loop_variable(level, "i") : std::string();
     if (in_loop)
-        out << "\t" << label << " : FOR i IN 0 TO " << get_bus_width() - 1 << " GENERATE \n\t";
-    out << "\t" << get_source_name(true) << (in_loop ? "(i)" : "(0)") << " <= " << (is_not_port() ? "NOT " : "");
+        out << "\t" << label << " : FOR " << variable << " IN 0 TO " << get_bus_width() - 1 << " GENERATE \n\t";
+    out << "\t" << get_source_name(true) << "(" << (in_loop ? variable : "0")
+        << ") <= " << (is_not_port() ? "NOT " : "");
 
-    bit_assignment const assignment(out, level, in_loop);
+    bit_assignment const assignment(out, level, variable);
     if (m_first_operand)
         assignment.write_operand(*m_first_operand);
     if (m_second_operand && !is_not_port()) {

@@ -31,12 +31,6 @@ bool port_place::has_output_signals_in_qhdl() const
     return m_parent && m_parent->uses_custom_subdesign_insert_mode() && m_parent->uses_custom_qhdl_output();
 }
 
-bool has_bidir_node(GNL_PORT const & port, GNL_GENERATOR const * level)
-{
-    return port.is_bidir() && port.get_parent() != level && port.get_connection_level() == level
-           && (port.get_driver() || port.is_driven_by_constant());
-}
-
 void write_instance_subscript(text_sink & text, GNL_PORT const & port, bool range_if_uneven)
 {
     port_place const place(port);
@@ -46,6 +40,16 @@ void write_instance_subscript(text_sink & text, GNL_PORT const & port, bool rang
         text << "[]";
     else if (place.is_slice())
         text << "[" << place.slice_index() << "]";
+}
+
+bool can_select(GNL_PORT const & port, int high, int low)
+{
+    int const width = port.get_original_width();
+    GNL_GENERATOR const * const array = port.get_parent();
+    if (!GNL_ELEMENT::is_qhdl() || width < 2 || low < 0 || !array || array->get_array_width() == 0
+        || array->is_in_rtl_body())
+        return true;
+    return high / width == low / width || (low % width == 0 && (high + 1LL) % width == 0);
 }
 
 void write_qhdl_range(text_sink & text, int width, bool with_index)
@@ -94,6 +98,14 @@ port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level)
     } else if (GNL_ELEMENT::is_vhdl() && place.slices() <= 1 && port.get_original_width() < 1)
         signal.is_vector = port.is_vhdl_array_wire();
     return signal;
+}
+
+std::string vhdl_loop_variable(GNL_GENERATOR * level, std::string const & letter)
+{
+    std::string name = letter;
+    while (level && level->get_port_object(name))
+        name.insert(0, "loop_");
+    return name;
 }
 
 void write_slice_part(text_sink & text, GNL_PORT & port, bool with_index)

@@ -42,13 +42,13 @@ private:
     GNL_GENERATOR * m_parent;
 };
 
-/// Whether the bidirectional port of an instance is connected through a node beside it in the text of `level`: what
-/// drives it in the body of `level` drives that node. A driver from within its own design doesn't count there.
-bool has_bidir_node(GNL_PORT const & port, GNL_GENERATOR const * level);
-
 /// The subscript of an instance in QHDL: "[]" for a whole array, its range where slices differ and `range_if_uneven`
 /// asks for it, the index of a slice.
 void write_instance_subscript(text_sink & text, GNL_PORT const & port, bool range_if_uneven);
+
+/// Whether one reference can show the bits `high` down to `low` of `port`. QHDL selects slices of an array and then
+/// bits in each of them: the bits of one slice, or whole slices.
+bool can_select(GNL_PORT const & port, int high, int low);
 
 /// "[", `width` - 1, "..0]", or "[]" without `with_index`; nothing for a width below 1.
 void write_qhdl_range(text_sink & text, int width, bool with_index);
@@ -76,6 +76,10 @@ struct port_signal
     bool is_vector = false;
 };
 port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level);
+
+/// The variable of a generate loop in the VHDL text of `level`: `letter`, with "loop_" in front as long as it would
+/// hide a signal of that name.
+std::string vhdl_loop_variable(GNL_GENERATOR * level, std::string const & letter);
 
 /// What follows the signal of a slice's port in Verilog and VHDL: its part of the whole array's signal, or the range of
 /// its own one. In VHDL `with_index` asks for the index of a single bit.

@@ -107,12 +107,14 @@ private:
         auto const flat = flat_signal(port);
         auto const rows = m_level.generate_loop_name();
         auto const bits = m_level.generate_loop_name();
+        auto const i = vhdl_loop_variable(&m_level, "i");
+        auto const j = vhdl_loop_variable(&m_level, "j");
         auto & text = m_assign.text();
-        text << "\t" << rows << " : FOR i IN 0 TO " << dimensions.rows - 1 << " GENERATE\n\t\t" << bits
-             << " : FOR j IN 0 TO " << dimensions.row_width - 1 << " GENERATE\n\t\t\t" << port.get_source_name(true)
-             << "_2d(i, j) <= " << flat.name;
+        text << "\t" << rows << " : FOR " << i << " IN 0 TO " << dimensions.rows - 1 << " GENERATE\n\t\t" << bits
+             << " : FOR " << j << " IN 0 TO " << dimensions.row_width - 1 << " GENERATE\n\t\t\t"
+             << port.get_source_name(true) << "_2d(" << i << ", " << j << ") <= " << flat.name;
         if (flat.is_vector) {
-            text << "(i*" << dimensions.row_width << "+j";
+            text << "(" << i << "*" << dimensions.row_width << "+" << j;
             if (flat.low_bit != 0)
                 text << "+" << flat.low_bit;
             text << ")";

@@ -15,11 +15,15 @@
 namespace gnl_detail {
 namespace {
 
-/// Which slice a statement is for: `index` of `slices`, -1 for the loop variable. What is no array has no slices.
+/// Which slice a statement is for: `index` of `slices`, or -1 in a loop over `variable`. What is no array has no
+/// slices.
 struct instance_place
 {
     int slices = 0;
     int index = -1;
+    std::string_view variable = {};
+
+    slice_of_signal part(int width, int held) const { return {width, slices, held, index, variable}; }
 };
 
 /// One instance statement.
@@ -78,7 +82,7 @@ private:
     {
         int const width = declared_slice_width(port);
         if (place.slices > 1)
-            formal(port, width == 1) << name << slice_of_signal{width, place.slices, place.slices, place.index};
+            formal(port, width == 1) << name << place.part(width, place.slices);
         else
             formal(port, false) << name << (is_vector && width == 0 ? "(0)" : "");
     }
@@ -90,7 +94,7 @@ private:
         if (place.slices > 1 && !driver.is_range_port() && driver.get_bus_width() > bits) {
             formal(port, width == 1);
             write_driver(driver, &port, false);
-            m_text << slice_of_signal{width, place.slices, driver.get_bus_width() / bits, place.index};
+            m_text << place.part(width, driver.get_bus_width() / bits);
         } else if (bits == 1 && driver.get_bus_width() == 1) {
             connect_bit(port, driver, width == 1);
         } else {
@@ -138,7 +142,7 @@ private:
         bool const has_index = width == 0 && other->get_original_width() == 1 && place.slices == 1;
         port.dump_special_driver_description(m_text.stream(), &m_level, -1);
         if (is_cut)
-            m_text << slice_of_signal{width, place.slices, other->get_bus_width() / bits, place.index};
+            m_text << place.part(width, other->get_bus_width() / bits);
         else if (width == 0 && shows_vector && !has_index)
             m_text << "(0)";
     }
@@ -199,13 +203,14 @@ private:
     {
         int const slices = m_subdesign.get_array_width();
         auto const label = slices > 1 ? m_level.generate_loop_name() : std::string();
+        auto const variable = vhdl_loop_variable(&m_level, "i");
         if (slices > 1)
-            m_text << "\t" << label << " : FOR i IN 0 TO " << slices - 1 << " GENERATE \n";
+            m_text << "\t" << label << " : FOR " << variable << " IN 0 TO " << slices - 1 << " GENERATE \n";
         instance_statement statement(m_level, m_text, m_signals);
         statement.open(slices > 1 ? "\t  " : "\t", m_subdesign.get_instance_name(), -1, m_subdesign.get_entity_name());
         auto * first = m_slices.at(0);
         bool const differs = first != nullptr && first->is_heterogeneous_element();
-        write_body(statement, differs ? *first : m_subdesign, {slices, -1});
+        write_body(statement, differs ? *first : m_subdesign, {slices, -1, variable});
         if (slices > 1)
             m_text << "\tEND GENERATE " << label << ";\n";
     }

@@ -116,7 +116,7 @@ text_sink & operator<<(text_sink & text, slice_of_signal const & part)
     bool const again = part.held > 0 && part.held < part.slices;
     if (part.index >= 0)
         return text << vhdl_slice_range(part.width, again ? part.index % part.held : part.index);
-    std::string variable = "i";
+    std::string variable(part.variable);
     if (again)
         variable += " mod " + GNL_ELEMENT::convert_int_to_string(part.held);
     if (part.width <= 1)
@@ -165,13 +165,15 @@ void vhdl_assignments::assign_bit(std::string const & name, bool is_vector, GNL_
 void vhdl_assignments::stretch(std::string const & name, int width, GNL_PORT & driver)
 {
     auto const label = m_level.generate_loop_name();
+    auto const variable = vhdl_loop_variable(&m_level, "i");
     int const driver_bits = driver.get_bus_width();
-    m_text << "\t" << label << " : FOR i IN 0 TO " << width - 1 << " GENERATE\n\t\t" << name << "(i) <= ";
+    m_text << "\t" << label << " : FOR " << variable << " IN 0 TO " << width - 1 << " GENERATE\n\t\t" << name << "("
+           << variable << ") <= ";
     if (driver.is_simple_port() || driver.is_range_port() || is_loop_signal(driver, &m_level)) {
         auto const signal = bits_of_driver(driver, &m_level);
         m_text << signal.name;
         if (driver_bits > 1) {
-            m_text << "(i/" << width / driver_bits;
+            m_text << "(" << variable << "/" << width / driver_bits;
             if (signal.low_bit != 0)
                 m_text << "+" << signal.low_bit;
             m_text << ") ";
@@ -187,8 +189,9 @@ void vhdl_assignments::stretch(std::string const & name, int width, GNL_PORT & d
 void vhdl_assignments::repeat(std::string const & name, int slice_width, int slices, GNL_PORT & driver)
 {
     auto const label = m_level.generate_loop_name();
-    m_text << "\t" << label << " : FOR i IN 0 TO " << slices - 1 << " GENERATE\n\t\t" << name
-           << slice_of_signal{slice_width, slices, slices} << " <= ";
+    auto const variable = vhdl_loop_variable(&m_level, "i");
+    m_text << "\t" << label << " : FOR " << variable << " IN 0 TO " << slices - 1 << " GENERATE\n\t\t" << name
+           << slice_of_signal{slice_width, slices, slices, -1, variable} << " <= ";
     write_driver(driver, nullptr, slice_width <= 1);
     m_text << ";\n\tEND GENERATE " << label << ";\n";
 }

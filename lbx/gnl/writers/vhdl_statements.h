@@ -25,13 +25,14 @@ std::string vhdl_constant(std::string const & bits, int width);
 port_signal bits_of_driver(GNL_PORT & driver, GNL_GENERATOR const * level);
 
 /// "(i*4+3 DOWNTO i*4)", "(i)": what one of `slices` slices takes of a signal that holds `held` of them. A signal that
-/// holds fewer is read again from its start. `index` is the slice's number, or -1 in a loop over i.
+/// holds fewer is read again from its start. `index` is the slice's number, or -1 in a loop over `variable`.
 struct slice_of_signal
 {
     int width; ///< of one slice, 0 for a scalar
     int slices;
     int held;
-    int index = -1;
+    int index;
+    std::string_view variable;
 };
 text_sink & operator<<(text_sink & text, slice_of_signal const & part);
 
