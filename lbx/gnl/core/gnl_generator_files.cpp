@@ -32,7 +32,7 @@ std::string before(std::string_view text, char separator)
 std::string cut_field(std::string & rest, char separator)
 {
     auto const end = rest.find(separator);
-    auto const field = rest.substr(0, end);
+    auto field = rest.substr(0, end);
     rest = end == std::string::npos ? std::string() : rest.substr(end + 1);
     return field;
 }
@@ -144,11 +144,11 @@ std::string GNL_GENERATOR::search_file_paths_for_file(std::string const & name)
         return {};
     if (exists(name))
         return name;
-    if (auto const in_output = get_directory_path() + name; exists(in_output))
+    if (auto in_output = get_directory_path() + name; exists(in_output))
         return in_output;
     auto paths = option_is_used(option_id::library_path) ? option_value(option_id::library_path) : std::string();
     while (!paths.empty())
-        if (auto const in_library = add_trailing_slashes_to_directory_name(cut_field(paths, ';')) + name;
+        if (auto in_library = add_trailing_slashes_to_directory_name(cut_field(paths, ';')) + name;
             exists(in_library))
             return in_library;
     return {};

@@ -29,7 +29,7 @@ std::string with_list(GNL_PARAMETER const & parameter)
 
 std::string with_list(GNL_PARAMETER_ARRAY const & array)
 {
-    std::string const name = array.get_name() + index_mark;
+    std::string name = array.get_name() + index_mark;
     if (!array.is_string_parameter_array())
         return name;
     return with_list(name, static_cast<GNL_PARAMETER_STRING_ARRAY const &>(array).get_value_list());

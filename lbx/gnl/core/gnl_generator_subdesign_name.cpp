@@ -172,7 +172,7 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_folder()
     auto & space = m_top.subdesign_names().space(folder + m_stem, ending);
     for (;; ++m_seed) {
         skip_taken(space);
-        auto const path = folder + name(m_seed) + ending;
+        auto const path = std::string(folder).append(name(m_seed)).append(ending);
         if (is_name_of_top(name(m_seed)) || m_top.subdesign_names().is_begun(path))
             continue;
         // An instance may overwrite its file of an earlier run, but not that of another design of this run.

@@ -71,6 +71,7 @@ private:
     {
         std::string stem, ending;
         std::optional<int> seed_of(std::string_view name) const;
+        // NOLINTNEXTLINE(modernize-use-nullptr): a false alarm on comparisons that the compiler writes
         auto operator<=>(name_pattern const &) const = default;
     };
 

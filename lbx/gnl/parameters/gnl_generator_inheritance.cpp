@@ -152,7 +152,7 @@ template <class KIND> typename KIND::value_type GNL_GENERATOR::inherited_value(s
         GNL_PARAMETER * const own = level->get_parameter_object(name);
         bool const found = own && KIND::holds(*own);
         if (found) {
-            auto const value = KIND::read(*own);
+            auto value = KIND::read(*own);
             if (!KIND::is_none(value))
                 return value;
         }

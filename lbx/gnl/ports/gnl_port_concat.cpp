@@ -153,6 +153,7 @@ GNL_PORT_CONCAT & GNL_PORT_CONCAT::operator,(GNL_PORT & low)
 GNL_PORT_CONCAT & GNL_PORT_CONCAT::operator,(GNL_PORT_CONCAT & low)
 {
     std::vector<GNL_PORT *> ports;
+    ports.reserve(static_cast<std::size_t>(get_element_count()));
     for (int i = 0; i < get_element_count(); ++i)
         ports.push_back(get_concat_element(i)->port);
     for (GNL_PORT * const port : ports)

@@ -31,7 +31,7 @@ void tell_late_pin(GNL_GENERATOR * parent, bool has_expression)
 std::string default_text(int default_value, int width)
 {
     bool const is_one = default_value == 1;
-    std::string const bits(static_cast<std::size_t>(std::max(width, 1)), is_one ? '1' : '0');
+    std::string bits(static_cast<std::size_t>(std::max(width, 1)), is_one ? '1' : '0');
     if (GNL_ELEMENT::is_verilog() || GNL_ELEMENT::is_vhdl())
         return bits;
     if (width > 1)

@@ -211,7 +211,7 @@ std::string version_fields(GNL_GENERATOR & design)
     text += " ";
     for (auto const & [name, version] : versions)
         if (name != "_")
-            text += name + " " + version + " ";
+            text.append(name).append(" ").append(version).append(" ");
     return text;
 }
 
