@@ -5,9 +5,12 @@
 
 #include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/ports/reference_text.h"
 
 #include <algorithm>
 #include <unordered_map>
+
+using gnl_detail::can_select;
 
 namespace {
 
@@ -262,7 +265,7 @@ private:
             return;
         GNL_PORT * source = m_sources.source_of(*wire);
         if (source && source->is_simple_port()) {
-            if (covers(*source, *wire))
+            if (covers(*source, *wire) && can_select(*source, range.get_high_index(), range.get_low_index()))
                 port.replace_driver(&make_range(*source, range.get_high_index(), range.get_low_index()));
         } else if (source && source->is_range_port() && covers(*source, *wire)) {
             bypass_range_of_range(port, range, static_cast<GNL_PORT_OUTPUT_RANGE &>(*source));
@@ -276,7 +279,8 @@ private:
     {
         GNL_PORT * base = source.get_range_driver();
         int const low = source.get_low_index();
-        if (base && base->is_simple_port())
+        if (base && base->is_simple_port()
+            && can_select(*base, low + range.get_high_index(), low + range.get_low_index()))
             port.replace_driver(&make_range(*base, low + range.get_high_index(), low + range.get_low_index()));
     }
 
@@ -335,7 +339,8 @@ private:
         auto & range = static_cast<GNL_PORT_OUTPUT_RANGE &>(port);
         GNL_PORT * wire = range.get_range_driver();
         GNL_PORT * source = m_sources.is_automatic_wire(wire) ? m_sources.source_of(*wire) : nullptr;
-        if (!source || !source->is_simple_port() || !covers(*source, *wire))
+        if (!source || !source->is_simple_port() || !covers(*source, *wire)
+            || !can_select(*source, range.get_high_index(), range.get_low_index()))
             return false;
         replace_element(concat, index, element, make_range(*source, range.get_high_index(), range.get_low_index()));
         return true;

@@ -4,6 +4,7 @@
 #include "gnl_port_range.h"
 #include "made_port.h"
 #include "port_messages.h"
+#include "reference_text.h"
 #include "saturated.h"
 
 using gnl_detail::concat_elements;
@@ -37,7 +38,8 @@ bool can_merge(GNL_SUBCONCAT const & upper, GNL_SUBCONCAT const & lower)
     auto const * const low = as_range(*lower.port);
     return high && low && high->get_range_driver() && high->get_range_driver() == low->get_range_driver()
            && upper.low_index == plus(lower.high_index, 1) && high->get_low_index() == plus(low->get_high_index(), 1)
-           && is_plain(upper) && is_plain(lower);
+           && is_plain(upper) && is_plain(lower)
+           && gnl_detail::can_select(*high->get_range_driver(), high->get_high_index(), low->get_low_index());
 }
 
 /// Makes one element of two; call only if they can be merged.

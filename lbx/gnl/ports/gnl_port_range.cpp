@@ -5,6 +5,7 @@
 #include "made_port.h"
 #include "operator_keys.h"
 #include "port_messages.h"
+#include "reference_text.h"
 #include "saturated.h"
 
 #include "lbx/gnl/core/element_registry.h"
@@ -72,7 +73,8 @@ public:
         mark_vector_of_one();
         if (m_high > m_port.get_bus_width() - 1 || m_low < 0)
             return out_of_bounds();
-        if (!m_port.is_logic() && !m_port.is_concat_port() && m_port.check_range_for_arrays(m_high, m_low))
+        if (!m_port.is_logic() && !m_port.is_concat_port() && m_port.check_range_for_arrays(m_high, m_low)
+            && !is_cut_out_of_slices())
             return direct();
         return through_wire();
     }
@@ -85,6 +87,21 @@ private:
         bool const in_array_of_one = parent && parent->get_array_width() == 1;
         if (m_port.is_output() && (m_port.get_width() == 0 || (in_array_of_one && m_port.get_original_width() == 0)))
             m_port.set_vhdl_array_wire();
+    }
+
+    /// A range of whole slices can hold bits that no single reference shows.
+    bool is_cut_out_of_slices()
+    {
+        if (!m_port.is_range_port() || !m_port.check_rhs(m_level))
+            return false;
+        long long offset = 0;
+        GNL_PORT const * base = &m_port;
+        while (base && base->is_range_port()) {
+            auto const & outer = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*base);
+            offset += outer.get_low_index();
+            base = outer.get_range_driver();
+        }
+        return base && !gnl_detail::can_select(*base, saturated(m_high + offset), saturated(m_low + offset));
     }
 
     GNL_PORT_OUTPUT_RANGE & on_port()
