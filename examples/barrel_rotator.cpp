@@ -33,6 +33,8 @@ protected:
     {
         exit_if_error();
         int const width = WIDTH.get_value();
+        check_parameter(*this, "WIDTH", width, 1 << LOG2_WIDTH.get_value(), 1 << LOG2_WIDTH.get_value());
+        exit_if_error();
         GNL_PORT * word = &data;
         for (int stage = 0; stage < LOG2_WIDTH.get_value(); ++stage) {
             int const distance = 1 << stage;

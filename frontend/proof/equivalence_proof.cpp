@@ -41,6 +41,30 @@ std::string common_name(std::string name)
     return is_reserved ? "a_" + name : name;
 }
 
+/// GHDL 2 writes the digits of a constant of more than 32 bits as a string, which Verilog takes for letters.
+std::string with_wide_constants(std::string const & verilog)
+{
+    std::string text;
+    std::size_t at = 0;
+    for (std::size_t quote = verilog.find('"'); quote != std::string::npos; quote = verilog.find('"', at)) {
+        std::size_t const end = verilog.find('"', quote + 1);
+        if (end == std::string::npos)
+            break;
+        std::string const digits = verilog.substr(quote + 1, end - quote - 1);
+        bool const is_constant = !digits.empty() && digits.find_first_not_of("01xzXZ") == std::string::npos;
+        text += verilog.substr(at, quote - at);
+        text += is_constant ? std::to_string(digits.size()) + "'b" + digits : '"' + digits + '"';
+        at = end + 1;
+    }
+    return text + verilog.substr(std::min(at, verilog.size()));
+}
+
+std::string file_text(fs::path const & file)
+{
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
 /// One design on its way to an and-inverter graph.
 class graph
 {
@@ -69,9 +93,11 @@ public:
         if (result.succeeded())
             result = run_tool("ghdl synth" + options + "--out=verilog " + quoted(m_design.top) + " >"
                               + quoted(verilog.string()));
-        if (result.succeeded())
+        if (result.succeeded()) {
+            std::string const text = with_wide_constants(file_text(verilog));
+            std::ofstream(verilog, std::ios::binary) << text;
             m_verilog = {verilog};
-        else
+        } else
             m_complaint = "GHDL: " + complaint(result.text);
         fs::remove_all(work);
     }

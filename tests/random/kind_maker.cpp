@@ -86,10 +86,15 @@ void kind_maker::declare_pins()
         m_kind.outputs.push_back(declared(output_names[(first_output + static_cast<std::size_t>(i)) % 6]));
 }
 
+std::string kind_maker::name_end()
+{
+    return !m_random.one_in(2) ? "" : m_allowed.underscores_at_end ? "_" : "s";
+}
+
 void kind_maker::add_wire()
 {
     auto const index = static_cast<int>(m_kind.wires.size());
-    auto const made = declared("t" + std::to_string(index) + (m_random.one_in(2) ? "_" : ""));
+    auto const made = declared("t" + std::to_string(index) + name_end());
     m_kind.wires.push_back(made);
     statement to;
     to.object = index;
@@ -145,7 +150,7 @@ bool kind_maker::add_child()
     m_kind.designs_below += more;
     auto const object = static_cast<int>(m_kind.children.size());
     if (!m_random.one_in(5))
-        made.instance = "u" + std::to_string(object) + (m_random.one_in(2) ? "_" : "");
+        made.instance = "u" + std::to_string(object) + name_end();
     made.given = settings_for(of);
     m_kind.children.push_back(made);
     connect(made, object);

@@ -35,6 +35,7 @@ private:
     void declare_parameters();
     void declare_pins();
     declared_signal declared(std::string const & name);
+    std::string name_end();
     void add_wire();
     bool add_child();
     child_settings settings_for(kind const & made);

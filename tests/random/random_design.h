@@ -160,7 +160,8 @@ struct profile
     int most_children = 8; ///< at all levels together
     int levels = 3;        ///< 1 is a flat design
     bool arrays = true;
-    bool broadcasts = true; ///< one signal of a slice's width for all slices of an array
+    bool broadcasts = true;         ///< one signal of a slice's width for all slices of an array
+    bool underscores_at_end = true; ///< in names of wires and instances, which VHDL refuses
 };
 
 /// The profile that belongs to a seed when a test does not choose: mostly small, one in a hundred of 200 children, one

@@ -35,8 +35,8 @@ format_argument read_argument(argument_kind kind, std::va_list & list)
 {
     format_argument argument;
     argument.kind = kind;
-    switch (kind) { // NOLINT(bugprone-branch-clone): each branch takes another type off the list
-    case argument_kind::none:
+    switch (kind) {
+    case argument_kind::none: // NOLINT(bugprone-branch-clone): each branch takes another type off the list
     case argument_kind::long_integer:
         argument.number = va_arg(list, long long);
         break;
