@@ -206,9 +206,12 @@ TEST_F(PortDescription, OutputOfACellThatIsWrittenAsStatementsIsANodeInQhdl)
     });
     EXPECT_EQ(both_forms(cells.port("s"), top), "arr_s[]  arr_s[3..0]");
     EXPECT_EQ(described(cells.port("q"), top, true), "arr_q[1..0]");
+    EXPECT_EQ(described(cells[2].port("q"), top), "arr_q[5..4]");
+    EXPECT_EQ(described(cells[2].port("s"), top), "arr_s[2..2]");
+    cells.set_as_heterogeneous_array(); // and each slice has a node
     EXPECT_EQ(described(cells[2].port("q"), top), "arr2_q[]");
-    cells.set_as_heterogeneous_array();
-    EXPECT_EQ(described(cells.port("s"), top), "arr_s");
+    EXPECT_EQ(described(cells.port("s"), top), "( arr3_s, arr2_s, arr1_s, arr0_s)");
+    EXPECT_EQ(described(cells.port("q"), top), "( arr3_q[], arr2_q[], arr1_q[], arr0_q[])");
 }
 
 TEST_F(PortDescription, BidirOfTheDesignAndOfASubdesign)

@@ -84,8 +84,8 @@ TEST_F(RangeDescription, OfANodeOfASlice)
     EXPECT_EQ(described(p, top), "arr3_p[]");
     cells[3].set_custom_subdesign_insert_mode();
     cells[3].set_use_custom_qhdl_output();
-    EXPECT_EQ(described(cells[3].port("q")[1], top), "arr3_q[1..1]");
-    EXPECT_EQ(described(cells[3].port("q"), top), "arr3_q[]");
+    EXPECT_EQ(described(cells[3].port("q")[1], top), "arr_q[7..7]");
+    EXPECT_EQ(described(cells[3].port("q"), top), "arr_q[7..6]");
 }
 
 TEST_F(RangeDescription, OfAnOutputOfACellThatQhdlWritesAsStatements)
@@ -119,6 +119,25 @@ TEST_F(RangeDescription, OfAnArrayOfCellsThatQhdlWritesAsStatementsCountsBits)
     cells.set_custom_subdesign_insert_mode();
     cells.set_use_custom_qhdl_output();
     EXPECT_EQ(described(cells.port("q").range(5, 2), top), "arr_q[5..2]");
+}
+
+// Slices that differ have a node each.
+TEST_F(RangeDescription, OfAnArrayOfDifferingCellsThatQhdlWritesAsStatementsIsAListOfTheirNodes)
+{
+    open_design top(GNL_QHDL);
+    auto const declare = [](design & cell) {
+        cell.output("q", 2);
+        cell.output("s");
+        cell.set_custom_subdesign_insert_mode();
+        cell.set_use_custom_qhdl_output();
+    };
+    auto & cells = top.array(4, declare);
+    cells.create_slices();
+    cells.set_as_heterogeneous_array();
+    EXPECT_EQ(described(cells.port("q").range(5, 2), top), "( arr2_q[], arr1_q[])");
+    EXPECT_EQ(described(cells.port("s").range(2, 1), top), "( arr2_s, arr1_s)");
+    EXPECT_EQ(described(cells[3].port("q")[1], top), "arr3_q[1..1]");
+    EXPECT_EQ(described(cells[3].port("s")[0], top), "arr3_s");
 }
 
 TEST_F(RangeDescription, OfASlice)

@@ -1,5 +1,6 @@
 #include "description_writer.h"
 #include "port_messages.h"
+#include "qhdl_nodes.h"
 #include "reference_text.h"
 
 using namespace gnl_detail;

@@ -4,6 +4,7 @@
 #include "gnl_generator.h"
 #include "gnl_port_range.h"
 #include "port_messages.h"
+#include "qhdl_nodes.h"
 #include "reference_text.h"
 #include "saturated.h"
 
@@ -12,7 +13,6 @@
 using gnl_detail::description_writer;
 using gnl_detail::list_separator;
 using gnl_detail::port_message;
-using gnl_detail::port_place;
 using gnl_detail::report;
 using gnl_detail::saturated;
 
@@ -119,7 +119,7 @@ private:
         GNL_PORT * base = &port;
         while (base && base->is_range_port())
             base = static_cast<GNL_PORT_OUTPUT_RANGE *>(base)->get_range_driver();
-        return base && !gnl_detail::has_bidir_node(*base, m_level) && !port_place(*base).has_output_signals_in_qhdl();
+        return base && !gnl_detail::has_bidir_node(*base, m_level) && !gnl_detail::has_output_node(*base);
     }
 
     /// Bits `high` down to `low` have no driver. The message is posted when its place in the text is reached: only then

@@ -1,41 +1,26 @@
 #include "description_writer.h"
+#include "qhdl_nodes.h"
 #include "reference_text.h"
 
 using namespace gnl_detail;
 
 namespace {
 
-/// An output of an instance, or a node of a cell that is written as statements.
-void write_qhdl_prefix(text_sink & text, GNL_PORT_OUTPUT const & port)
-{
-    if (port_place(port).has_output_signals_in_qhdl()) {
-        text << port.get_parent()->get_qhdl_port_extension();
-        return;
-    }
-    text << port.get_parent_instance_name();
-    write_instance_subscript(text, port, true);
-    text << ".";
-}
-
-/// The width of the range behind an output's name in QHDL. An array of cells that are written as statements has one
-/// node for all slices, also when a slice is a scalar.
-int qhdl_width(GNL_PORT_OUTPUT & port)
-{
-    port_place const place(port);
-    if (place.slices() < 1)
-        return port.get_width();
-    if (port.get_original_width() < 1 && place.has_output_signals_in_qhdl() && !place.in_heterogeneous_array())
-        return port.get_width();
-    return port.get_original_width();
-}
-
 void describe_in_qhdl(text_sink & text, GNL_PORT_OUTPUT & port, GNL_GENERATOR const * level, bool with_index)
 {
-    if (port.get_parent() != level)
-        write_qhdl_prefix(text, port);
+    bool const outside = port.get_parent() != level;
+    if (outside && has_output_node(port)) {
+        write_output_node(text, port, with_index);
+        return;
+    }
+    if (outside) {
+        text << port.get_parent_instance_name();
+        write_instance_subscript(text, port, true);
+        text << ".";
+    }
     text << port.get_source_name(false);
     if (port.get_width() != 0)
-        write_qhdl_range(text, qhdl_width(port), with_index);
+        write_qhdl_range(text, shown_width(port), with_index);
 }
 
 /// The index behind the signal of an output in VHDL. A scalar of which a range was taken is declared with one element,

@@ -2,6 +2,7 @@
 
 #include "description_writer.h"
 #include "gnl_generator.h"
+#include "qhdl_nodes.h"
 #include "reference_text.h"
 #include "saturated.h"
 
@@ -89,19 +90,22 @@ void write_instance(text_sink & text, shown_bits const & bits)
 void write_qhdl(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)
 {
     GNL_PORT & port = *bits.range->get_range_driver();
-    // A node stands beside the instance, and one of an array holds the bits of all slices.
-    bool const is_node = port_place(port).has_output_signals_in_qhdl() || gnl_detail::has_bidir_node(port, level);
-    if (port.get_parent() != level) {
-        if (is_node)
-            text << port.get_parent()->get_qhdl_port_extension();
-        else
-            write_instance(text, bits);
+    bool const outside = port.get_parent() != level;
+    if (outside && gnl_detail::has_output_node(port)) {
+        gnl_detail::write_output_node_bits(text, port, bits.high, bits.low);
+        return;
     }
+    bool const is_bidir_node = gnl_detail::has_bidir_node(port, level);
+    if (is_bidir_node)
+        text << port.get_parent()->get_qhdl_port_extension();
+    else if (outside)
+        write_instance(text, bits);
     text << port.get_source_name(bits.range->get_parent() != level);
     if (port.get_width() == 0)
         return;
     int const width = port.get_original_width();
-    bool const within_slice = port_place(*bits.range).slices() > 0 && !is_node;
+    // The node of an array holds the bits of all slices.
+    bool const within_slice = port_place(*bits.range).slices() > 0 && !is_bidir_node;
     if (!within_slice)
         text << "[" << bits.high << ".." << bits.low << "]";
     else if (width > 0)

@@ -1,6 +1,7 @@
 #include "gnl_generator.h"
 
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/ports/qhdl_nodes.h"
 #include "lbx/gnl/ports/reference_text.h"
 #include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/port_kinds.h"
