@@ -230,29 +230,3 @@ TEST_F(VhdlReading, OfBidirectionalPorts)
     EXPECT_EQ(result.status, 0) << result.text << file_text("top.vhd");
     EXPECT_EQ(result.text, "");
 }
-
-/// Users ask for expressions in port maps where their tools take them, which those of 1993 don't.
-TEST_F(VhdlReading, OfExpressionsInPortMapsNeedsANewerStandard)
-{
-    SKIP_WITHOUT("ghdl");
-    design top(nullptr, "top", "LBX_FILE=top.vhd,LBX_NO_VHDL_SUBDES_CONCAT_WIRES=ON");
-    auto & x = top.input("x", 2);
-    auto & y = top.output("y", 4);
-    top.body = [&](design & of) {
-        auto & leaf = of.child("leaf", "u");
-        auto & a = leaf.input("a", 4);
-        auto & b = leaf.input("b", 2);
-        auto & q = leaf.output("q", 4);
-        leaf.body = [](design & made) { made.port("q") = made.port("a") ^ (made.port("b"), made.port("b")); };
-        a = (x, x);
-        b = ~x;
-        y = q;
-    };
-    top.run();
-    ASSERT_EQ(top.messages(), texts{});
-    auto const old_standard = run_command("ghdl -a --std=93c top.vhd");
-    EXPECT_NE(old_standard.status, 0);
-    EXPECT_NE(old_standard.text.find("globally static"), std::string::npos) << old_standard.text;
-    auto const new_standard = run_command("ghdl -a --std=08 top.vhd");
-    EXPECT_EQ(new_standard.status, 0) << new_standard.text;
-}
