@@ -38,7 +38,7 @@ struct expression
     place at;
     reference source;                 ///< of a reference
     std::string digits;               ///< of a constant, the highest first; VCC and GND are one digit
-    bool is_level = false;            ///< VCC or GND, which fill any width
+    bool is_level = false;            ///< VCC or GND, which fill any width; one bit in a list
     std::vector<expression> operands; ///< of a list from the highest bits down
 };
 
@@ -89,6 +89,7 @@ struct function_header
     std::string name;
     std::vector<pin_declaration> pins;
     place at;
+    bool is_cell = false; ///< whose inputs may stay open
 };
 
 struct design

@@ -34,6 +34,7 @@ void reader::add_folder(std::filesystem::path const & folder)
 void reader::add_cell(std::string_view function)
 {
     auto header = parse_function(function);
+    header.is_cell = true;
     auto const name = folded(header.name);
     if (!m_cells.emplace(name, std::move(header)).second)
         throw error("function", {}, "the cell is there twice");

@@ -26,7 +26,7 @@ public:
     /// All ".tdf" files of a folder; they must be complete and without errors.
     void add_folder(std::filesystem::path const & folder);
     /// A cell that designs may instantiate and that a module from elsewhere describes:
-    /// "FUNCTION cell (a[3..0], ena) WITH (DEPTH) RETURNS (q);"
+    /// "FUNCTION cell (a[3..0], ena) WITH (DEPTH) RETURNS (q);". Its inputs may stay open.
     void add_cell(std::string_view function);
 
     /// One module for each design, in the order of their names.

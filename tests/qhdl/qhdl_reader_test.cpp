@@ -88,6 +88,7 @@ TEST(QhdlReader, Expressions)
     EXPECT_EQ(source_of("B\"0101\""), "4'b0101");
     EXPECT_EQ(source_of("VCC"), "{4{1'b1}}");
     EXPECT_EQ(source_of("gnd"), "{4{1'b0}}");
+    EXPECT_EQ(source_of("( VCC, a[1..0], GND)"), "{1'b1, a[1:0], 1'b0}");
 }
 
 TEST(QhdlReader, ANarrowSourceFillsItsTarget)
@@ -270,7 +271,6 @@ TEST(QhdlReader, RefusesWidthsThatDontFit)
     EXPECT_EQ(refusal(pins, "", "\ty[1..0] = a[];\n"), "8:2: 2 bits are driven by 4");
     EXPECT_EQ(refusal(pins, "", "\ty[] = B\"01\";\n"), "8:2: 4 bits are driven by 2");
     EXPECT_EQ(refusal(pins, "", "\ty[] = (a[] & b[1..0]);\n"), "8:13: one side has 4 bits and the other 2");
-    EXPECT_EQ(refusal(pins, "", "\ty[] = ( a[2..0], VCC);\n"), "8:19: VCC and GND have no width in a list");
 }
 
 // ---- What it refuses: drivers
@@ -290,8 +290,29 @@ TEST(QhdlReader, RefusesBitsThatAreDrivenTwiceOrNotAtAll)
     EXPECT_EQ(refusal(pins, "", "\ty[] = a[];\n\ty[1..1] = s;\n"), "9:2: y is driven already");
     EXPECT_EQ(refusal(pins, "", "\ty[2..0] = a[2..0];\n"), "6:2: y is not driven");
     EXPECT_EQ(refusal(pins, wire, "\ty[] = w[];\n\tw[0..0] = s;\n\tu.d = s;\n"), "12:8: w is read, but not driven");
-    EXPECT_EQ(refusal(pins, wire, "\ty[] = w[0..0];\n\tw[0..0] = s;\n"), "9:2: u.d is not driven");
-    EXPECT_EQ(refusal(pins, wire, "\ty[] = w[0..0];\n\tw[0..0] = s;\n\tu.d = s;\n"), "");
+    EXPECT_EQ(refusal(pins, wire, "\ty[] = w[0..0];\n\tw[0..0] = s;\n"), "");
+    EXPECT_EQ(refusal(pins, "VARIABLE \n\tc : cell;\n\n", "\ty[] = a[];\n\tc.d[0..0] = s;\n"),
+              "8:2: c.d is not driven");
+}
+
+/// A cell may have defaults for them, a design has none.
+TEST(QhdlReader, RefusesOpenInputsOfDesigns)
+{
+    qhdl::reader designs;
+    designs.add("leaf.tdf", "SUBDESIGN leaf\n( \n\ta\t:\tinput;\n) BEGIN \nEND;\n");
+    designs.add("top.tdf", "SUBDESIGN top\n( \n) VARIABLE \n\tu : leaf;\n\nBEGIN \nEND;\n");
+    try {
+        designs.verilog();
+        FAIL();
+    } catch (qhdl::error const & refused) {
+        EXPECT_STREQ(refused.what(), "top.tdf:4:2: u.a is not driven");
+    }
+}
+
+TEST(QhdlReader, LeavesOpenInputsOfCellsOut)
+{
+    auto const text = module_of(pins, "VARIABLE \n\tu : cell;\n\n", "\ty[] = ( u.q[], a[1..0]);\n\tu.e = s;\n");
+    EXPECT_NE(text.find("  cell u (.e(u$e), .q(u$q), .s(u$s));\n"), std::string::npos) << text;
 }
 
 std::string refusal_of_pads(std::string const & variables, std::string const & statements)

@@ -3,6 +3,7 @@
 
 #include "qhdl/qhdl_reader.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -292,8 +293,6 @@ private:
             return value_of(source.operands.front());
         value all{"", 0};
         for (auto const & operand : source.operands) {
-            if (operand.is_level)
-                fail(operand.at, "VCC and GND have no width in a list");
             auto const one = value_of(operand);
             all.text += (all.text.empty() ? "{" : ", ") + one.text;
             all.width += one.width;
@@ -402,7 +401,14 @@ private:
             check_sink(*one);
         for (auto const & [name, one] : m_instances)
             for (auto const & [pin, of] : one.pins)
-                check_sink(*of);
+                if (!is_open(one, *of))
+                    check_sink(*of);
+    }
+    /// An input of a cell that nothing drives at all.
+    static bool is_open(instance const & of, net const & pin)
+    {
+        return of.function->is_cell && pin.role == net_role::sink
+               && std::find(pin.driven.begin(), pin.driven.end(), true) == pin.driven.end();
     }
     void check_sink(net const & one) const
     {
@@ -443,6 +449,8 @@ private:
         std::string nets;
         std::string pins;
         for (auto const & [name, of] : one.pins) {
+            if (is_open(one, *of))
+                continue;
             if (of->joined_to.empty())
                 nets += "  wire " + range_text(*of) + of->name + ";\n";
             auto const pin = of->name.substr(one.name.size() + 1);

@@ -109,7 +109,8 @@ template <class SOURCE> void report_assigned_again(GNL_PORT & sink, SOURCE const
 template <class SOURCE> bool check_unassigned(GNL_PORT & sink, SOURCE const & source)
 {
     GNL_GENERATOR const & parent = *sink.get_parent();
-    if (sink.is_heterogeneous_port() && parent.is_heterogeneous_array()) {
+    // In the common design of the slices the port is that of one slice.
+    if (sink.is_heterogeneous_port() && parent.is_heterogeneous_array() && !parent.is_in_rtl_body()) {
         report<messages_about<SOURCE>.heterogeneous>(parent, sink.get_hierarchical_name(), source_text(source));
         return false;
     }
