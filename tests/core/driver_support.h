@@ -31,8 +31,10 @@ inline std::string copyright(int language)
 inline std::string name_of(std::string const & header, unsigned more = 0)
 {
     unsigned seed = more;
-    for (unsigned char character : header)
+    for (char const letter : header) {
+        auto const character = static_cast<unsigned char>(letter);
         seed += character >= 'A' && character <= 'Z' ? character + 32u : character;
+    }
     std::string name = "mg";
     for (; seed > 0; seed >>= 5)
         name += "0123456789abcdefghijklmnopqrstuv"[seed & 31u];

@@ -237,12 +237,13 @@ TEST_P(EachCell, ACopyIsACellByItself)
     cell.set_qelvar_internal_option("a=b");
     {
         auto const copy = row.copy(cell);
-        EXPECT_EQ(typeid(*copy), typeid(cell));
-        EXPECT_EQ(copy->get_name(), row.name);
-        EXPECT_EQ(copy->get_instance_name(), "u");
-        EXPECT_EQ(copy->get_array_width(), 2);
-        EXPECT_EQ(copy->dump_qelvar_internal_options_as_string(), "a=b");
-        EXPECT_TRUE(flags_of(*copy) == row.flags);
+        GNL_GENERATOR const & copied = *copy;
+        EXPECT_EQ(typeid(copied), typeid(cell));
+        EXPECT_EQ(copied.get_name(), row.name);
+        EXPECT_EQ(copied.get_instance_name(), "u");
+        EXPECT_EQ(copied.get_array_width(), 2);
+        EXPECT_EQ(copied.dump_qelvar_internal_options_as_string(), "a=b");
+        EXPECT_TRUE(flags_of(copied) == row.flags);
     }
     EXPECT_TRUE(pins_of(cell) == row.pins); // the copy took nothing with it
     EXPECT_EQ(top.messages(), texts{});
