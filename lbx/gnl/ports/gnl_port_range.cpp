@@ -92,7 +92,11 @@ private:
     /// A range of whole slices can hold bits that no single reference shows.
     bool is_cut_out_of_slices()
     {
-        if (!m_port.is_range_port() || !m_port.check_rhs(m_level))
+        // Looked at first, as the chain below can be long: in QHDL alone slices count, and ranges have their port's
+        // parent.
+        if (!GNL_ELEMENT::is_qhdl() || !m_port.is_range_port() || !has_slices(m_port.get_parent()))
+            return false;
+        if (!m_port.check_rhs(m_level))
             return false;
         long long offset = 0;
         GNL_PORT const * base = &m_port;
