@@ -327,13 +327,25 @@ std::unique_ptr<timed_design> make(std::string const & workload, std::string con
     throw std::invalid_argument("no workload " + workload);
 }
 
+/// "W1" is written in Verilog, "W1:vhd" and "W1:tdf" in the languages of these endings.
+struct run_request
+{
+    explicit run_request(std::string const & text)
+        : workload(text.substr(0, text.find(':')))
+        , file("top." + (text == workload ? std::string("v") : text.substr(workload.size() + 1)))
+    {
+    }
+    std::string workload;
+    std::string file;
+};
+
 /// Generates the design into the working folder. The child designs stay with their top: destroying them is part of
 /// neither time.
-bench::run_result generate(std::string const & workload, int n)
+bench::run_result generate(run_request const & wanted, int n)
 {
     bench::run_result result;
     auto const start = bench::clock::now();
-    auto const top = make(workload, "top.v", n);
+    auto const top = make(wanted.workload, wanted.file, n);
     std::ostringstream unused;
     top->generate_subdesign(unused);
     result.build_seconds = std::chrono::duration<double>(top->built - start).count();
@@ -349,12 +361,12 @@ bench::run_result generate(std::string const & workload, int n)
 
 /// W2r generates its files and then finds each of them unchanged. The time to build is that of the first generation,
 /// the time to write that of the second.
-bench::run_result generate_twice(std::string const & workload, int n)
+bench::run_result generate_twice(run_request const & wanted, int n)
 {
     auto const whole = [](bench::run_result const & run) { return run.build_seconds + run.write_seconds; };
     bench::run_result result;
-    result.build_seconds = whole(generate(workload, n));
-    result.write_seconds = whole(generate(workload, n));
+    result.build_seconds = whole(generate(wanted, n));
+    result.write_seconds = whole(generate(wanted, n));
     return result;
 }
 
@@ -374,7 +386,8 @@ bench::run_result run(std::string const & workload, int n)
     auto const home = fs::current_path();
     fs::current_path(folder);
 
-    auto result = workload == "W2r" ? generate_twice(workload, n) : generate(workload, n);
+    run_request const wanted(workload);
+    auto result = wanted.workload == "W2r" ? generate_twice(wanted, n) : generate(wanted, n);
     result.bytes_written = bytes_in_folder();
 
     fs::current_path(home);
