@@ -138,6 +138,30 @@ private:
     GNL_PORT_OUTPUT y;
 };
 
+/// Two bits on four: Verilog repeats them and VHDL stretches them, on purpose.
+class STRETCHED : public GNL_GENERATOR
+{
+public:
+    STRETCHED(GNL_GENERATOR * parent, char const * text)
+        : GNL_GENERATOR(parent, "stretched", text)
+        , a(this, "a", 2)
+        , y(this, "y", 4)
+    {
+    }
+
+protected:
+    void rtl_body(std::ostream & out) override
+    {
+        y = a;
+        dump_hdl(out);
+    }
+
+private:
+    GNL_PORT_INPUT a;
+    GNL_PORT_OUTPUT y;
+};
+
+LBX_REGISTER_GENERATOR(STRETCHED, "stretched", "Means something else in each language")
 LBX_REGISTER_GENERATOR(ENDING, "ending", "Ends as HOW says")
 LBX_REGISTER_GENERATOR(PARENT, "parent", "Holds a design that ends as HOW says")
 LBX_REGISTER_GENERATOR(UNBORN, "unborn", "Can't be made")
