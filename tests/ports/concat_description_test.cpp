@@ -151,6 +151,32 @@ TEST_F(ConcatDescription, HolesUnderADefaultAreFilled)
     });
 }
 
+/// Clean-up can put a narrower source in the place of a wire that repeated it.
+TEST_F(ConcatDescription, APortThatIsNarrowerThanItsBitsIsRepeated)
+{
+    expect_language_texts({"{{3{s}}, {2{a}}}", "( s & s & s & a & a)", "( s, s, s, a[], a[])"}, [](open_design & top) {
+        auto & pieces = *new GNL_PORT_CONCAT(&top, 7);
+        pieces.add_at_index(top.input("s"), 6, 4, nullptr);
+        pieces.add_at_index(top.input("a", 2), 3, 0, nullptr);
+        return described(pieces, top);
+    });
+    expect_language_texts({"{3{s}}", "( s)", "( s)"}, [](open_design & top) {
+        auto & pieces = *new GNL_PORT_CONCAT(&top, 3);
+        pieces.add_at_index(top.input("s"), 2, 0, nullptr);
+        return described(pieces, top);
+    });
+}
+
+TEST_F(ConcatDescription, APortThatIsRepeatedAboveAHoleIsNotAlone)
+{
+    expect_language_texts({"{{2{s}}, {2{1'b0}}}", "( s & s & \"00\")", "( s, s, B\"00\")"}, [](open_design & top) {
+        auto & w = top.wire("w", 4);
+        w.set_default_port_value(0);
+        w.range(3, 2) = top.input("s");
+        return described(*w.get_driver(), top, false, &w);
+    });
+}
+
 TEST_F(ConcatDescription, HolesAreReportedForTheTargetWhenTheyAreWritten)
 {
     for (int const language : {GNL_VERILOG, GNL_VHDL, GNL_QHDL, GNL_TCL}) {

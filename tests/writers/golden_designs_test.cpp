@@ -6,6 +6,7 @@ using namespace gnl_test;
 namespace {
 
 using GoldenVerilog = in_folder;
+using GoldenQhdl = in_folder;
 
 } // namespace
 
@@ -32,4 +33,19 @@ TEST_F(GoldenVerilog, ASecondRunWritesTheSame)
     fs::remove("top.v");
     array_design("LBX_FILE=top.v")->run();
     EXPECT_EQ(file_text("top.v"), first);
+}
+
+TEST_F(GoldenQhdl, FlatDesign)
+{
+    EXPECT_TRUE(writes_golden(*flat_design("LBX_FILE=top.tdf"), "flat.tdf", "top.tdf"));
+}
+
+TEST_F(GoldenQhdl, TwoLevelDesign)
+{
+    EXPECT_TRUE(writes_golden(*two_level_design("LBX_FILE=top.tdf"), "two_level.tdf", "top.tdf"));
+}
+
+TEST_F(GoldenQhdl, ArrayDesign)
+{
+    EXPECT_TRUE(writes_golden(*array_design("LBX_FILE=top.tdf"), "array.tdf", "top.tdf"));
 }
