@@ -6,6 +6,7 @@ using namespace gnl_test;
 namespace {
 
 using GoldenVerilog = in_folder;
+using GoldenVhdl = in_folder;
 using GoldenQhdl = in_folder;
 
 } // namespace
@@ -33,6 +34,21 @@ TEST_F(GoldenVerilog, ASecondRunWritesTheSame)
     fs::remove("top.v");
     array_design("LBX_FILE=top.v")->run();
     EXPECT_EQ(file_text("top.v"), first);
+}
+
+TEST_F(GoldenVhdl, FlatDesign)
+{
+    EXPECT_TRUE(writes_golden(*flat_design("LBX_FILE=top.vhd"), "flat.vhd", "top.vhd"));
+}
+
+TEST_F(GoldenVhdl, TwoLevelDesign)
+{
+    EXPECT_TRUE(writes_golden(*two_level_design("LBX_FILE=top.vhd"), "two_level.vhd", "top.vhd"));
+}
+
+TEST_F(GoldenVhdl, ArrayDesign)
+{
+    EXPECT_TRUE(writes_golden(*array_design("LBX_FILE=top.vhd"), "array.vhd", "top.vhd"));
 }
 
 TEST_F(GoldenQhdl, FlatDesign)
