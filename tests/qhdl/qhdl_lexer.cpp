@@ -91,7 +91,7 @@ private:
 
     std::string binary_digits(place at)
     {
-        auto const digits = quoted();
+        auto digits = quoted();
         if (digits.empty() || digits.find_first_not_of("01") != std::string::npos)
             throw error(m_file, at, "\"" + digits + "\" are no binary digits");
         return digits;

@@ -459,8 +459,8 @@ private:
         std::string parameters;
         for (auto const & parameter : one.declaration->parameters) {
             std::string const quote = parameter.is_string ? "\"" : "";
-            parameters +=
-                (parameters.empty() ? " #(." : ", .") + parameter.name + "(" + quote + parameter.value + quote + ")";
+            parameters.append(parameters.empty() ? " #(." : ", .").append(parameter.name);
+            parameters.append("(").append(quote).append(parameter.value).append(quote).append(")");
         }
         if (!parameters.empty())
             parameters += ")";
