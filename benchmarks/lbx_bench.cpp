@@ -93,6 +93,13 @@ public:
     {
     }
 
+    /// A file is used again only if it tells of what version its design is. In QHDL every design has one, and each
+    /// instance would write it anew.
+    void get_version(std::map<std::string, std::string, LESS_C_STRING> & versions) override
+    {
+        versions["child"] = "2024:01:01";
+    }
+
     GNL_PORT_INPUT clk, d;
     GNL_PORT_OUTPUT q;
     GNL_PARAMETER_INTEGER K;
@@ -105,17 +112,6 @@ protected:
         k = K.get_value() % 256;
         q = d ^ k;
         dump_hdl(out);
-    }
-};
-
-/// Files are used again only if they tell of what version their design is.
-class child_with_version : public child
-{
-public:
-    using child::child;
-    void get_version(std::map<std::string, std::string, LESS_C_STRING> & versions) override
-    {
-        versions["child"] = "2024:01:01";
     }
 };
 
@@ -136,7 +132,7 @@ private:
     {
         GNL_PORT * previous = &d;
         for (int i = 0; i < n; ++i) {
-            child & made = make_child();
+            auto & made = *new child(this);
             made.set_instance_name("u" + std::to_string(i) + "_");
             made.K = i % m_kinds;
             made.clk = clk;
@@ -145,8 +141,6 @@ private:
         }
         q = *previous;
     }
-
-    virtual child & make_child() { return *new child(this); }
 
     GNL_PORT_INPUT clk, d;
     GNL_PORT_OUTPUT q;
@@ -161,9 +155,6 @@ public:
         : hierarchy(file, n, n, ",LBX_SINGLE_OUTPUT_FILE=OFF")
     {
     }
-
-private:
-    child & make_child() override { return *new child_with_version(this); }
 };
 
 /// W2s: one array of N slices, each connected by itself to the one before it.
