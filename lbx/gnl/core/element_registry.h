@@ -5,6 +5,7 @@
 
 #include "lbx/gnl/core/key_text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <deque>
@@ -142,6 +143,9 @@ public:
     element_walk<GNL_PORT_OUTPUT_RANGE> ranges();
     /// All ports of all kinds: expressions, then ports, then ranges.
     std::vector<GNL_PORT *> all_ports();
+    /// Those of them that `wanted` accepts. A kind of which none is wanted is not put in order: that costs more than
+    /// asking each.
+    template <class WANTED> std::vector<GNL_PORT *> ports_where(WANTED wanted);
     /// The expressions and the ranges in no particular order, for whom order means nothing: making it takes longer than
     /// looking at each.
     std::vector<GNL_PORT_LOGIC *> unordered_logic_ports() { return unordered<GNL_PORT_LOGIC>(element_kind::logic); }
@@ -281,6 +285,15 @@ private:
     }
     template <class TYPE> element_walk<TYPE> walk(element_kind kind) { return element_walk<TYPE>(elements_of(kind)); }
 
+    template <class WANTED> bool holds_any(element_kind kind, WANTED wanted)
+    {
+        file_pending();
+        return std::any_of(m_entries.begin(), m_entries.end(), [&](entry const & held) {
+            return held.kind == kind && held.state == entry_state::filed
+                   && wanted(static_cast<GNL_PORT &>(*held.element));
+        });
+    }
+
     GNL_GENERATOR & m_owner;
     std::vector<entry> m_entries; ///< by slot
     slot m_filed_end = 0;         ///< the first slot that has not been looked at
@@ -292,5 +305,16 @@ private:
     std::array<std::unique_ptr<kind_order>, element_kind_count> m_orders; ///< null until the first walk
     std::unique_ptr<seldom_needed> m_seldom;
 };
+
+template <class WANTED> std::vector<GNL_PORT *> element_registry::ports_where(WANTED wanted)
+{
+    std::vector<GNL_PORT *> found;
+    for (auto const kind : {element_kind::logic, element_kind::port, element_kind::range})
+        if (holds_any(kind, wanted))
+            for (GNL_PORT & port : walk<GNL_PORT>(kind))
+                if (wanted(port))
+                    found.push_back(&port);
+    return found;
+}
 
 } // namespace gnl_detail

@@ -47,7 +47,8 @@ public:
 
     void write()
     {
-        for (GNL_PORT * port : m_design.registry().all_ports()) {
+        for (GNL_PORT * port : m_design.registry().ports_where(
+                 [&](GNL_PORT & each) { return each.is_simple_port() || is_read_loop_signal(each, &m_design); })) {
             if (port->is_wire())
                 assign_wire(*port);
             else if (port->is_output())

@@ -79,7 +79,8 @@ void GNL_GENERATOR::dump_vhdl_variables_and_subdesigns(std::ostream & out,
     if (!uses_custom_subdesign_insert_mode()) {
         declare_subdesign_signals(*this, out, signals, types);
         text_sink text(out);
-        for (auto * port : m_registry->all_ports())
+        for (auto * port : m_registry->ports_where(
+                 [&](GNL_PORT & each) { return each.is_simple_port() || is_read_loop_signal(each, this); }))
             declare_own_signal(text, *this, *port);
     }
     write_components(*this, out, std::move(types));
@@ -89,7 +90,7 @@ void GNL_GENERATOR::dump_vhdl_variables_and_subdesigns(std::ostream & out,
     if (!uses_custom_subdesign_insert_mode())
         return;
     text_sink text(out);
-    for (auto * port : m_registry->all_ports())
-        if (port->port_has_wire_in_custom_vhdl(this))
-            declare_vhdl_signal(text, port->get_source_name(true), port->get_bus_width()) << ";\n";
+    for (auto * port :
+         m_registry->ports_where([&](GNL_PORT & each) { return each.port_has_wire_in_custom_vhdl(this); }))
+        declare_vhdl_signal(text, port->get_source_name(true), port->get_bus_width()) << ";\n";
 }
