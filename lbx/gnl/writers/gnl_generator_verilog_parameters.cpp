@@ -2,6 +2,7 @@
 
 #include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/writers/cell_parameters.h"
 #include "lbx/gnl/writers/simulation_only_value.h"
 #include "lbx/gnl/writers/text_sink.h"
 
@@ -43,7 +44,7 @@ public:
         for (GNL_PARAMETER_ARRAY & array : m_instance.registry().parameter_arrays())
             if (array.dump_verilog_parameter_array_assignment(m_text.stream(), m_list.started(), m_slice_index))
                 m_list.set_started();
-        if (tells_used_ports())
+        if (tells_used_ports(m_instance))
             for (GNL_PORT & port : m_instance.registry().ports())
                 if ((port.is_input() || port.is_output()) && port.is_used())
                     entry() << port.get_name() << "_port_used = \"used\"";
@@ -63,6 +64,8 @@ private:
 
     void assign(GNL_PARAMETER & parameter)
     {
+        if (collect_hint(m_instance, parameter, m_hint))
+            return;
         if (parameter.is_integer_parameter())
             assign_integer(static_cast<GNL_PARAMETER_INTEGER &>(parameter));
         else if (parameter.is_string_parameter())
@@ -72,26 +75,11 @@ private:
     }
     void assign_integer(GNL_PARAMETER_INTEGER & parameter)
     {
-        if (parameter.is_lpm_hint()) {
-            m_instance.add_to_lpm_hint_string(m_hint, parameter.get_name(),
-                                              GNL_ELEMENT::convert_int_to_string(parameter.get_value(true)));
-            return;
-        }
-        std::string_view const quote = parameter.is_output_as_string_parameter() ? "\"" : "";
-        entry() << written_name(parameter.get_name()) << " = " << quote;
-        if (parameter.uses_expr_assignment())
-            m_text << parameter.get_expr_assignment();
-        else
-            m_text << parameter.get_value(true);
-        m_text << quote;
+        write_integer_value(entry() << written_name(parameter.get_name()) << " = ", parameter);
     }
     void assign_string(GNL_PARAMETER_STRING & parameter)
     {
-        if (parameter.is_lpm_hint()) {
-            m_instance.add_to_lpm_hint_string(m_hint, parameter.get_name(), parameter.get_value(true));
-        } else if (equal_folded(parameter.get_name(), "lpm_hint")) {
-            m_instance.add_to_lpm_hint_string(m_hint, parameter.get_value(true), "");
-        } else if (parameter.uses_expr_assignment()) {
+        if (parameter.uses_expr_assignment()) {
             // The name is left out, and readers of these files count on it.
             entry() << " = " << parameter.get_expr_assignment();
         } else {
@@ -117,13 +105,6 @@ private:
         std::string_view const quote = value.is_number ? "" : "\"";
         entry(instance_prefix(m_instance, false, m_slice_index))
             << written_name(name) << " = " << quote << value.text << quote;
-    }
-
-    /// A cell that stands for another one tells it which of its ports are connected.
-    bool tells_used_ports() const
-    {
-        return m_instance.is_primitive() && !equal_folded(m_instance.get_name(), m_instance.get_primitive_name())
-               && m_instance.option_equals(option_id::eda_planb, "ON");
     }
 
     void close()

@@ -1,8 +1,9 @@
 #include "gnl_generator.h"
 
-#include "lbx/gnl/core/case_folding.h"
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/writers/cell_parameters.h"
 #include "lbx/gnl/writers/list_separator.h"
+#include "lbx/gnl/writers/simulation_only_value.h"
 #include "lbx/gnl/writers/text_sink.h"
 
 using namespace gnl_detail;
@@ -29,7 +30,7 @@ public:
             for (GNL_PARAMETER_ARRAY & array : m_instance.registry().parameter_arrays())
                 if (array.dump_vhdl_parameter_array_assignment(m_text.stream(), m_list.started(), true))
                     m_list.set_started();
-        if (tells_used_ports())
+        if (tells_used_ports(m_instance))
             for (GNL_PORT & port : m_instance.registry().ports())
                 if ((port.is_input() || port.is_output()) && port.is_used())
                     entry(port.get_name())
@@ -48,6 +49,8 @@ private:
 
     void assign(GNL_PARAMETER & parameter)
     {
+        if (collect_hint(m_instance, parameter, m_hint))
+            return;
         if (parameter.is_integer_parameter())
             assign_integer(static_cast<GNL_PARAMETER_INTEGER &>(parameter));
         else if (parameter.is_string_parameter())
@@ -57,26 +60,11 @@ private:
     }
     void assign_integer(GNL_PARAMETER_INTEGER & parameter)
     {
-        if (parameter.is_lpm_hint()) {
-            m_instance.add_to_lpm_hint_string(m_hint, parameter.get_name(),
-                                              GNL_ELEMENT::convert_int_to_string(parameter.get_value(true)));
-            return;
-        }
-        std::string_view const quote = parameter.is_output_as_string_parameter() ? "\"" : "";
-        entry(parameter.get_name()) << " => " << quote;
-        if (parameter.uses_expr_assignment())
-            m_text << parameter.get_expr_assignment();
-        else
-            m_text << parameter.get_value(true);
-        m_text << quote;
+        write_integer_value(entry(parameter.get_name()) << " => ", parameter);
     }
     void assign_string(GNL_PARAMETER_STRING & parameter)
     {
-        if (parameter.is_lpm_hint())
-            m_instance.add_to_lpm_hint_string(m_hint, parameter.get_name(), parameter.get_value(true));
-        else if (equal_folded(parameter.get_name(), "lpm_hint"))
-            m_instance.add_to_lpm_hint_string(m_hint, parameter.get_value(true), "");
-        else if (parameter.uses_expr_assignment())
+        if (parameter.uses_expr_assignment())
             entry(parameter.get_name()) << " => " << parameter.get_expr_assignment();
         else
             entry(parameter.get_name()) << " => \"" << parameter.get_value(true) << "\"";
@@ -89,24 +77,11 @@ private:
         else
             entry(parameter.get_name()) << " => \"" << value.as_bin_string() << "\"";
     }
-    /// A parameter object of the name knows the value better than the list does.
-    void assign_simulation_only(std::string const & name, std::string const & value)
+    void assign_simulation_only(std::string const & name, std::string const & listed)
     {
-        auto * parameter = m_instance.registry().find_parameter(name);
-        entry(name) << " => ";
-        if (parameter != nullptr && parameter->is_integer_parameter())
-            m_text << static_cast<GNL_PARAMETER_INTEGER *>(parameter)->get_value(true);
-        else if (parameter != nullptr && parameter->is_string_parameter())
-            m_text << "\"" << static_cast<GNL_PARAMETER_STRING *>(parameter)->get_value(true) << "\"";
-        else
-            m_text << "\"" << value << "\"";
-    }
-
-    /// A cell that stands for another one tells it which of its ports are connected.
-    bool tells_used_ports() const
-    {
-        return m_instance.is_primitive() && !equal_folded(m_instance.get_name(), m_instance.get_primitive_name())
-               && m_instance.option_equals(option_id::eda_planb, "ON");
+        auto const value = simulation_only_value_of(m_instance, name, listed);
+        std::string_view const quote = value.is_number ? "" : "\"";
+        entry(name) << " => " << quote << value.text << quote;
     }
 
     GNL_GENERATOR & m_instance;
