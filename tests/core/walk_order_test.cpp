@@ -5,7 +5,6 @@
 #include "lbx/gnl/core/element_registry.h"
 
 #include <algorithm>
-#include <chrono>
 #include <random>
 
 namespace {
@@ -230,16 +229,7 @@ TEST_F(WalkOrder, IsThatOfTheKeyTextsForRandomNetlists)
         });
 }
 
-using clock = std::chrono::steady_clock;
-
-double seconds_since(clock::time_point start)
-{
-    return std::chrono::duration<double>(clock::now() - start).count();
-}
-
-/// What the walks over deep netlists may take on a slow machine under sanitizers; walking down each chain for each
-/// comparison would take hours.
-constexpr double patience = 60;
+// Walking down each of these chains for each comparison would take hours.
 
 TEST_F(WalkOrder, ChainsDownTheFirstOperandAreOrderedWithoutWalkingDownThem)
 {
@@ -249,9 +239,7 @@ TEST_F(WalkOrder, ChainsDownTheFirstOperandAreOrderedWithoutWalkingDownThem)
         GNL_PORT * chain = &a;
         for (int i = 0; i < 100000; ++i)
             chain = i % 2 == 0 ? &(*chain & b) : &(*chain ^ b);
-        auto const start = clock::now();
         auto const walk = top.registry().logic_ports();
-        EXPECT_LT(seconds_since(start), patience);
         ASSERT_EQ(walk.size(), 100000U);
         // The deepest of those that begin with AND has the longest run of "LGC;AND;LGC;XOR;".
         EXPECT_EQ(&*walk.begin(), static_cast<GNL_PORT_LOGIC *>(chain)->get_first_operand());
@@ -265,9 +253,7 @@ TEST_F(WalkOrder, ChainsDownTheSecondOperandAreOrderedWithoutWalkingDownThem)
         GNL_PORT * chain = &top.wire("b");
         for (int i = 0; i < 100000; ++i)
             chain = &(a & *chain);
-        auto const start = clock::now();
         auto const walk = top.registry().logic_ports();
-        EXPECT_LT(seconds_since(start), patience);
         ASSERT_EQ(walk.size(), 100000U);
         EXPECT_EQ(&*walk.begin(), chain);
     });
@@ -279,9 +265,7 @@ TEST_F(WalkOrder, ChainsOfRangesAreOrdered)
         GNL_PORT * chain = &top.wire("a", 100);
         for (int i = 0; i < 100000; ++i)
             chain = &chain->range(99, 0);
-        auto const start = clock::now();
         auto const walk = top.registry().ranges();
-        EXPECT_LT(seconds_since(start), patience);
         ASSERT_EQ(walk.size(), 100000U);
         // "PORT;" comes before "RNG;", so that the range on the wire comes first and the deepest one last.
         GNL_PORT const * last = nullptr;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <numeric>
@@ -210,10 +209,9 @@ TEST(ConcatElements, BehaveLikeAPlainListUnderRandomOperations)
     EXPECT_EQ(layout_of(elements), expected.elements());
 }
 
-/// Seconds for `count` bits that are placed one by one in this order.
-double seconds_for(std::vector<int> const & order)
+/// Places bits one by one in this order; a walk for each would take minutes.
+void expect_all_placed(std::vector<int> const & order)
 {
-    auto const start = std::chrono::steady_clock::now();
     concat_elements elements;
     for (int const bit : order)
         if (!elements.holds_any(bit, bit))
@@ -222,24 +220,21 @@ double seconds_for(std::vector<int> const & order)
     for (int i = 0; i < elements.size(); ++i)
         last = elements.at(i)->high_index == last - 1 ? last - 1 : -1;
     EXPECT_EQ(last, 0) << "each bit is there, in order";
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// The bounds are far above what it takes, and far below what a walk for each bit would take.
-TEST(ConcatElements, AHundredThousandBitsInAnyOrderAreQuick)
+TEST(ConcatElements, AHundredThousandBitsComeInAnyOrder)
 {
     std::vector<int> order(100000);
     std::iota(order.begin(), order.end(), 0);
-    EXPECT_LT(seconds_for(order), 2.0) << "from the lowest up";
+    expect_all_placed(order);
     std::reverse(order.begin(), order.end());
-    EXPECT_LT(seconds_for(order), 2.0) << "from the highest down";
+    expect_all_placed(order);
     std::shuffle(order.begin(), order.end(), std::mt19937(1));
-    EXPECT_LT(seconds_for(order), 2.0) << "in random order";
+    expect_all_placed(order);
 }
 
-TEST(ConcatElements, AppendingAHundredThousandTimesBelowIsQuick)
+TEST(ConcatElements, AHundredThousandAreAppendedBelow)
 {
-    auto const start = std::chrono::steady_clock::now();
     concat_elements elements;
     for (int i = 0; i < 100000; ++i) {
         elements.raise(1);
@@ -248,7 +243,6 @@ TEST(ConcatElements, AppendingAHundredThousandTimesBelowIsQuick)
     EXPECT_EQ(elements.highest()->high_index, 99999);
     EXPECT_EQ(elements.at(50000)->high_index, 49999);
     EXPECT_EQ(elements.lowest()->high_index, 0);
-    EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 2.0);
 }
 
 } // namespace
