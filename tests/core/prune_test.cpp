@@ -1,57 +1,10 @@
 // Clean-up of a netlist before it is written: what nothing reads, and automatically named wires.
 
-#include "support.h"
-
-#include <gtest/gtest.h>
+#include "prune_support.h"
 
 namespace {
 
 using namespace gnl_test;
-
-/// A design whose body runs, with the steps of the clean-up.
-class pruned_design : public design
-{
-public:
-    explicit pruned_design(int language = GNL_VERILOG, char const * text = "")
-        : design(nullptr, "top", text)
-    {
-        set_gen_language(language);
-        initialize_param_list();
-        set_in_rtl_body();
-    }
-    using GNL_GENERATOR::get_non_auto_wire_driver;
-    using GNL_GENERATOR::modify_auto_sources;
-    using GNL_GENERATOR::remove_named_driver_from_port;
-    using GNL_GENERATOR::replace_wire_port_driver;
-
-    GNL_WIRE & source(std::string const & name, int width = 0)
-    {
-        auto & made = wire(name, width);
-        made.set_port_is_a_driver();
-        return made;
-    }
-};
-
-/// "base[high:low]" of a range, the name of any other port, "-" for none.
-std::string shown(GNL_PORT * port)
-{
-    auto * range = dynamic_cast<GNL_PORT_OUTPUT_RANGE *>(port);
-    if (!range)
-        return port ? port->get_name() : "-";
-    return shown(range->get_range_driver()) + "[" + std::to_string(range->get_high_index()) + ":"
-           + std::to_string(range->get_low_index()) + "]";
-}
-
-/// The elements of a concatenation, highest first, each as "port@high:low".
-std::string shown_elements(GNL_PORT & port)
-{
-    auto & concat = dynamic_cast<GNL_PORT_CONCAT &>(port);
-    std::string text;
-    for (int i = 0; auto const * element = concat.get_concat_element(i); ++i)
-        text += (i == 0 ? "" : " ") + shown(element->port) + "@" + std::to_string(element->high_index) + ":"
-                + std::to_string(element->low_index);
-    return text;
-}
 
 class Prune : public in_folder
 {
@@ -722,57 +675,6 @@ TEST_F(Prune, ADriverOfAnotherNameOrDesignStays)
     top.remove_named_driver_from_port(nullptr, "cell", "q", &replacement);
     EXPECT_EQ(y.get_driver(), &q);
     EXPECT_EQ(replacement.get_driver_count(), 0);
-}
-
-// ---- Arrays
-
-/// The outputs of three slices of 4 bits, which a design reads in pieces.
-GNL_PORT_OUTPUT & sliced_output(pruned_design & top)
-{
-    auto & array = top.child("cell", "arr", "", 3);
-    array.declare_slice = [](design & slice) { slice.output("q", 4); };
-    return array.output("q", 4);
-}
-
-/// A reference in QHDL names slices and then bits in each of them, so that bits of two slices cannot be named at once.
-TEST_F(Prune, BitsOfTwoSlicesStayBehindTheirWireInQhdl)
-{
-    for (int const language : {GNL_VERILOG, GNL_QHDL}) {
-        pruned_design top(language);
-        auto & q = sliced_output(top);
-        auto & across = top.output("across", 4);
-        auto & inside = top.output("inside", 2);
-        across = q.range(5, 2);
-        inside = q.range(3, 2);
-        top.prune_optional_wires();
-        EXPECT_EQ(shown(across.get_driver()), language == GNL_VERILOG ? "q[5:2]" : "w1w[5:2]");
-        EXPECT_EQ(shown(inside.get_driver()), "q[3:2]");
-    }
-}
-
-TEST_F(Prune, BitsOfTwoSlicesAreNotMergedInQhdl)
-{
-    for (int const language : {GNL_VERILOG, GNL_QHDL}) {
-        pruned_design top(language);
-        auto & q = sliced_output(top);
-        auto & y = top.output("y", 4);
-        y.range(3, 2) = q.range(5, 4);
-        y.range(1, 0) = q.range(3, 2);
-        top.prune_optional_wires();
-        EXPECT_EQ(shown_elements(*y.get_driver()), language == GNL_VERILOG ? "q[5:2]@3:0" : "q[5:4]@3:2 q[3:2]@1:0");
-    }
-}
-
-TEST_F(Prune, ARangeOfARangeThatCutsSlicesGoesThroughAWireInQhdl)
-{
-    for (int const language : {GNL_VERILOG, GNL_QHDL}) {
-        pruned_design top(language);
-        auto & q = sliced_output(top);
-        auto & y = top.output("y", 3);
-        y = q.range(11, 4).range(4, 2);
-        top.prune_optional_wires();
-        EXPECT_EQ(shown(y.get_driver()), language == GNL_VERILOG ? "q[11:4][4:2]" : "w2w[4:2]");
-    }
 }
 
 } // namespace
