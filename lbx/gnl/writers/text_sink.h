@@ -5,7 +5,6 @@
 #include <array>
 #include <charconv>
 #include <concepts>
-#include <cstring>
 #include <ostream>
 #include <string_view>
 
@@ -43,8 +42,7 @@ public:
             m_out.write(text.data(), static_cast<std::streamsize>(text.size()));
             return *this;
         }
-        std::memcpy(m_buffer.data() + m_used, text.data(), text.size());
-        m_used += text.size();
+        m_used += text.copy(m_buffer.data() + m_used, text.size()); // an empty text may point nowhere
         return *this;
     }
     /// Numbers alone: a character or a flag would become one unseen.
