@@ -148,8 +148,7 @@ std::string GNL_GENERATOR::search_file_paths_for_file(std::string const & name)
         return in_output;
     auto paths = option_is_used(option_id::library_path) ? option_value(option_id::library_path) : std::string();
     while (!paths.empty())
-        if (auto in_library = add_trailing_slashes_to_directory_name(cut_field(paths, ';')) + name;
-            exists(in_library))
+        if (auto in_library = add_trailing_slashes_to_directory_name(cut_field(paths, ';')) + name; exists(in_library))
             return in_library;
     return {};
 }

@@ -514,10 +514,9 @@ public:
     std::map<std::string, std::string, LESS_C_STRING>
     dump_vhdl_array_type_declarations(std::ostream & out, std::map<std::string, std::string, LESS_C_STRING> types);
     /// The components of an array's slices. Answers whether the array's own component is needed as well.
-    bool
-    dump_vhdl_component_section_for_hetero_arrays(std::ostream & out,
-                                                  std::map<std::string, std::string, LESS_C_STRING> & components,
-                                                  std::map<std::string, std::string, LESS_C_STRING> & types);
+    bool dump_vhdl_component_section_for_hetero_arrays(std::ostream & out,
+                                                       std::map<std::string, std::string, LESS_C_STRING> & components,
+                                                       std::map<std::string, std::string, LESS_C_STRING> & types);
     /// The "library.package" entries of `get_vhdl_library`, each under itself, so that two packages of one library
     /// stay two.
     std::map<std::string, std::string, LESS_C_STRING> get_vhdl_library_list();
@@ -550,8 +549,8 @@ public:
     /// @name QHDL
     /// Declarations: writers/gnl_generator_qhdl_sections.cpp, writers/gnl_generator_qhdl_variables.cpp,
     /// writers/gnl_generator_qhdl_with_clause.cpp. Connections: writers/gnl_generator_qhdl_connections.cpp,
-    /// writers/gnl_generator_qhdl_subdesign_connections.cpp, writers/gnl_generator_qhdl_array_connections.cpp. Wrappers:
-    /// writers/gnl_generator_qhdl_wrapper.cpp, writers/gnl_generator_qhdl_library_wrapper.cpp.
+    /// writers/gnl_generator_qhdl_subdesign_connections.cpp, writers/gnl_generator_qhdl_array_connections.cpp.
+    /// Wrappers: writers/gnl_generator_qhdl_wrapper.cpp, writers/gnl_generator_qhdl_library_wrapper.cpp.
     /// @{
     void dump_qhdl_top_level_parameter_section(std::ostream & out);
     void dump_qhdl_subdesign_section(std::ostream & out);
