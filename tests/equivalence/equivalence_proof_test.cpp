@@ -1,7 +1,7 @@
 // The proof itself: it must find what is equal, what differs, and what it cannot tell.
 
-#include "equivalence_proof.h"
 #include "outside_tools.h"
+#include "proof_test.h"
 #include "support.h"
 
 #include <string>
@@ -16,16 +16,9 @@ using language = lbx_proof::design_text::language;
 
 namespace {
 
-class EquivalenceProof : public in_folder
+class EquivalenceProof : public proof_test
 {
 protected:
-    void SetUp() override
-    {
-        in_folder::SetUp();
-        for (auto const & tool : lbx_proof::missing_tools())
-            GTEST_SKIP() << tool << " is not installed";
-    }
-
     static design_text text(language written_in, std::string const & file, std::string const & content)
     {
         std::ofstream(file) << content;

@@ -1,7 +1,7 @@
 // Every example means the same in all three hardware languages, with several settings of its parameters.
 
-#include "equivalence_proof.h"
 #include "examples/example_test.h"
+#include "proof_test.h"
 
 #include <set>
 #include <utility>
@@ -46,16 +46,9 @@ setting const settings[] = {
     {"sorting_network", "COUNT=4,WIDTH=3"},
 };
 
-class ExampleEquivalence : public in_folder
+class ExampleEquivalence : public proof_test
 {
 protected:
-    void SetUp() override
-    {
-        in_folder::SetUp();
-        for (auto const & tool : lbx_proof::missing_tools())
-            GTEST_SKIP() << tool << " is not installed";
-    }
-
     /// Generates with all inputs as pins; the folder of its files.
     static fs::path generate(setting const & with, std::size_t index, std::string const & extension)
     {

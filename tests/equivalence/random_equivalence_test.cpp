@@ -1,7 +1,7 @@
 // Random designs mean the same in all three hardware languages: proven, not simulated.
 
-#include "equivalence_proof.h"
 #include "outside_tools.h"
+#include "proof_test.h"
 #include "qhdl/qhdl_reader.h"
 #include "random/random_trial.h"
 #include "support.h"
@@ -132,15 +132,8 @@ design_text translated_design::faulty() const
     return text;
 }
 
-class RandomEquivalence : public in_folder, public ::testing::WithParamInterface<int>
+class RandomEquivalence : public proof_test, public ::testing::WithParamInterface<int>
 {
-protected:
-    void SetUp() override
-    {
-        in_folder::SetUp();
-        for (auto const & tool : lbx_proof::missing_tools())
-            GTEST_SKIP() << tool << " is not installed";
-    }
 };
 
 void expect_equal(std::vector<translated_design> const & designs, std::vector<question> const & questions)

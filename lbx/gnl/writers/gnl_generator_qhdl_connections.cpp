@@ -51,7 +51,7 @@ private:
     }
     void assign_wire(GNL_WIRE & wire)
     {
-        if (wire.port_is_a_driver() || wire.declare_port())
+        if (wire.declare_port())
             assign(wire, true);
     }
     template <class SINK> void assign(SINK & sink, bool may_take_default)

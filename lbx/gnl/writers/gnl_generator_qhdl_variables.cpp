@@ -112,7 +112,7 @@ private:
     void declare_signal(GNL_PORT & port)
     {
         if (port.is_wire()) {
-            if (port.port_is_a_driver() || port.declare_port())
+            if (port.declare_port())
                 declare_as(port, "", "\t: WIRE;\n");
         } else if (auto * input = as_input(port)) {
             if (is_default_signal(*input))

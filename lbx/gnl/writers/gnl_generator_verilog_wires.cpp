@@ -16,7 +16,7 @@ namespace {
 void declare_signal(text_sink & text, GNL_PORT & port)
 {
     if (auto const * wire = as_wire(port)) {
-        if (!port.port_is_a_driver() && !port.declare_port())
+        if (!port.declare_port())
             return;
         text << (wire->uses_verilog_reg() ? "\treg  " : "\twire  ") << bus_range{port.get_width(), two_blanks}
              << port.get_name();

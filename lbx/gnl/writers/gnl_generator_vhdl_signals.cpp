@@ -38,7 +38,7 @@ void declare_own_signal(text_sink & text, GNL_GENERATOR const & design, GNL_PORT
         return;
     }
     if (auto * wire = as_wire(port)) {
-        if (!port.port_is_a_driver() && !port.declare_port())
+        if (!port.declare_port())
             return;
         declare_wire(text, *wire);
     } else if (auto * input = as_input(port); input != nullptr && is_default_signal(*input)) {
