@@ -48,7 +48,7 @@ std::uint32_t hash_of_range(GNL_PORT const * port, int high, int low, GNL_GENERA
 
 // ---- The table
 
-void element_registry::slot_table::add(slot added, std::uint32_t hash, std::vector<entry> const & entries)
+void element_registry::slot_table::add(slot added, std::uint32_t hash, entry_table const & entries)
 {
     if (m_taken + m_taken / 2 >= m_places.size())
         grow(entries);
@@ -65,7 +65,7 @@ void element_registry::slot_table::place(slot placed, std::uint32_t hash)
 }
 
 /// Makes room, and drops the marks of what was removed.
-void element_registry::slot_table::grow(std::vector<entry> const & entries)
+void element_registry::slot_table::grow(entry_table const & entries)
 {
     slot_list kept;
     for (slot const which : m_places)

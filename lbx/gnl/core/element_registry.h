@@ -3,9 +3,9 @@
 #include "gnl_element.h"
 #include "gnl_generator.h"
 
+#include "lbx/gnl/core/growing_table.h"
 #include "lbx/gnl/core/key_text.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <deque>
@@ -148,11 +148,9 @@ public:
     template <class WANTED> std::vector<GNL_PORT *> ports_where(WANTED wanted);
     /// The expressions and the ranges in no particular order, for whom order means nothing: making it takes longer than
     /// looking at each.
-    std::vector<GNL_PORT_LOGIC *> unordered_logic_ports() { return unordered<GNL_PORT_LOGIC>(element_kind::logic); }
-    std::vector<GNL_PORT_OUTPUT_RANGE *> unordered_ranges()
-    {
-        return unordered<GNL_PORT_OUTPUT_RANGE>(element_kind::range);
-    }
+    template <class ELEMENT> class unordered_walk;
+    unordered_walk<GNL_PORT_LOGIC> unordered_logic_ports();
+    unordered_walk<GNL_PORT_OUTPUT_RANGE> unordered_ranges();
     /// Which of two expressions or ranges of one generator comes first, below 0 or above 0; 0 if that is not known yet.
     static int compare_places(GNL_PORT const & a, GNL_PORT const & b);
     /// @}
@@ -178,6 +176,8 @@ private:
         entry_state state = entry_state::pending;
     };
 
+    using entry_table = growing_table<entry>;
+
     /// Slots by hash, with open addressing.
     class slot_table
     {
@@ -185,7 +185,7 @@ private:
         static constexpr slot none = 0xffffffffU;
 
         /// The slot among those of `hash` that `match` accepts by its entry, or none.
-        template <class MATCH> slot find(std::uint32_t hash, std::vector<entry> const & entries, MATCH match) const
+        template <class MATCH> slot find(std::uint32_t hash, entry_table const & entries, MATCH match) const
         {
             if (m_places.empty())
                 return none;
@@ -199,14 +199,14 @@ private:
                     return m_places[at];
             }
         }
-        void add(slot added, std::uint32_t hash, std::vector<entry> const & entries);
+        void add(slot added, std::uint32_t hash, entry_table const & entries);
         void remove(slot which, std::uint32_t hash);
 
     private:
         static constexpr slot removed = 0xfffffffeU;
         std::size_t mask() const { return m_places.size() - 1; }
         void place(slot placed, std::uint32_t hash);
-        void grow(std::vector<entry> const & entries);
+        void grow(entry_table const & entries);
 
         slot_list m_places; ///< as many as a power of 2
         std::size_t m_taken = 0;
@@ -273,38 +273,94 @@ private:
     void sort_made(element_kind kind, kind_order & order);
     void sort_by_key_text(kind_order & order) const;
     std::string key_of(slot which) const;
-    template <class TYPE> std::vector<TYPE *> unordered(element_kind kind)
-    {
-        file_pending();
-        std::vector<TYPE *> found;
-        found.reserve(m_filed_counts[static_cast<std::size_t>(kind)]);
-        for (entry const & held : m_entries)
-            if (held.kind == kind && held.state == entry_state::filed)
-                found.push_back(static_cast<TYPE *>(held.element));
-        return found;
-    }
     template <class TYPE> element_walk<TYPE> walk(element_kind kind) { return element_walk<TYPE>(elements_of(kind)); }
 
-    template <class WANTED> bool holds_any(element_kind kind, WANTED wanted)
-    {
-        file_pending();
-        return std::any_of(m_entries.begin(), m_entries.end(), [&](entry const & held) {
-            return held.kind == kind && held.state == entry_state::filed
-                   && wanted(static_cast<GNL_PORT &>(*held.element));
-        });
-    }
+    template <class WANTED> bool holds_any(element_kind kind, WANTED wanted);
 
     GNL_GENERATOR & m_owner;
-    std::vector<entry> m_entries; ///< by slot
-    slot m_filed_end = 0;         ///< the first slot that has not been looked at
-    slot m_count = 0;             ///< of all that is held
-    slot m_named_end = 0;         ///< no name before this slot is late
+    entry_table m_entries; ///< by slot
+    slot m_filed_end = 0;  ///< the first slot that has not been looked at
+    slot m_count = 0;      ///< of all that is held
+    slot m_named_end = 0;  ///< no name before this slot is late
     bool m_closing = false;
     slot_table m_table;
     std::array<slot, element_kind_count> m_filed_counts{};                ///< by kind
     std::array<std::unique_ptr<kind_order>, element_kind_count> m_orders; ///< null until the first walk
     std::unique_ptr<seldom_needed> m_seldom;
 };
+
+/// The elements of one kind in the order of their slots. Those that come while it is walked may be left out.
+template <class ELEMENT> class element_registry::unordered_walk
+{
+public:
+    unordered_walk(element_registry & registry, element_kind kind)
+        : m_registry(registry)
+        , m_kind(kind)
+    {
+        registry.file_pending();
+        m_end = static_cast<slot>(registry.m_entries.size());
+    }
+
+    class iterator
+    {
+    public:
+        iterator(unordered_walk const & walk, slot at)
+            : m_walk(walk)
+            , m_at(at)
+        {
+            skip_others();
+        }
+        ELEMENT & operator*() const { return *static_cast<ELEMENT *>(m_walk.m_registry.m_entries[m_at].element); }
+        iterator & operator++()
+        {
+            ++m_at;
+            skip_others();
+            return *this;
+        }
+        bool operator==(iterator const & other) const { return m_at == other.m_at; }
+
+    private:
+        void skip_others()
+        {
+            while (m_at < m_walk.m_end && !m_walk.holds(m_at))
+                ++m_at;
+        }
+
+        unordered_walk const & m_walk;
+        slot m_at;
+    };
+    iterator begin() const { return iterator(*this, 0); }
+    iterator end() const { return iterator(*this, m_end); }
+
+private:
+    bool holds(slot at) const
+    {
+        entry const & held = m_registry.m_entries[at];
+        return held.kind == m_kind && held.state == entry_state::filed;
+    }
+
+    element_registry & m_registry;
+    element_kind m_kind;
+    slot m_end;
+};
+
+inline element_registry::unordered_walk<GNL_PORT_LOGIC> element_registry::unordered_logic_ports()
+{
+    return {*this, element_kind::logic};
+}
+
+inline element_registry::unordered_walk<GNL_PORT_OUTPUT_RANGE> element_registry::unordered_ranges()
+{
+    return {*this, element_kind::range};
+}
+
+template <class WANTED> bool element_registry::holds_any(element_kind kind, WANTED wanted)
+{
+    for (GNL_PORT & port : unordered_walk<GNL_PORT>(*this, kind))
+        if (wanted(port))
+            return true;
+    return false;
+}
 
 template <class WANTED> std::vector<GNL_PORT *> element_registry::ports_where(WANTED wanted)
 {

@@ -330,13 +330,15 @@ std::vector<GNL_GENERATOR *> element_registry::unnamed_generators()
 {
     std::vector<GNL_GENERATOR *> found;
     file_pending();
-    for (entry const & held : m_entries)
+    for (slot at = 0; at < m_entries.size(); ++at) {
+        entry const & held = m_entries[at];
         if (held.kind == element_kind::generator
             && (held.state == entry_state::filed || held.state == entry_state::waiting)) {
             auto & generator = static_cast<GNL_GENERATOR &>(*held.element);
             if (generator.get_instance_name().empty())
                 found.push_back(&generator);
         }
+    }
     std::stable_sort(found.begin(), found.end(), [](GNL_GENERATOR const * a, GNL_GENERATOR const * b) {
         named_key const x(element_kind::generator, *a), y(element_kind::generator, *b);
         return x.text().compare(y.text()) < 0;

@@ -7,7 +7,6 @@
 #include "lbx/gnl/core/element_registry.h"
 #include "lbx/gnl/ports/reference_text.h"
 
-#include <algorithm>
 #include <unordered_map>
 
 using gnl_detail::can_select;
@@ -186,8 +185,8 @@ private:
         for (GNL_GENERATOR & cell : design.registry().generators())
             if (cell.is_primitive())
                 prune(cell);
-        for (GNL_PORT_LOGIC * logic : design.registry().unordered_logic_ports())
-            bypass_operands(*logic);
+        for (GNL_PORT_LOGIC & logic : design.registry().unordered_logic_ports())
+            bypass_operands(logic);
         for (GNL_PORT & port : design.registry().ports())
             if (port.is_concat_port())
                 bypass_elements(static_cast<GNL_PORT_CONCAT &>(port));
@@ -209,16 +208,17 @@ private:
 
     /// Operators of one kind. In which order they are released shows only where one that is unread was made of another:
     /// that one may become unread too. Most designs have no such thing and are spared the sorting.
-    template <class OPERATOR, class WALK>
-    static void release_unread(std::vector<OPERATOR *> const & operators, WALK in_order)
+    template <class OPERATORS, class WALK> static void release_unread(OPERATORS const & operators, WALK in_order)
     {
-        auto const shows_order = [](OPERATOR const * one) { return !one->port_is_a_driver() && is_nested(*one); };
-        if (std::any_of(operators.begin(), operators.end(), shows_order))
-            for (OPERATOR & one : in_order())
+        bool shows_order = false;
+        for (auto & one : operators)
+            shows_order = shows_order || (!one.port_is_a_driver() && is_nested(one));
+        if (shows_order)
+            for (auto & one : in_order())
                 release_sources(one);
         else
-            for (OPERATOR * one : operators)
-                release_sources(*one);
+            for (auto & one : operators)
+                release_sources(one);
     }
 
     static bool is_nested(GNL_PORT_LOGIC const & logic)
