@@ -30,6 +30,15 @@ TEST_F(Element, AssignmentLeavesARegisteredElementWhatItIs)
     EXPECT_EQ(one.get_parameter_object("B"), nullptr);
 }
 
+TEST_F(Element, CanBeGivenTheNameThatItHas)
+{
+    design top(nullptr);
+    auto & a = top.input("a_name_that_is_too_long_for_a_string_of_its_own");
+    a.change_name(a.get_name());
+    EXPECT_EQ(a.get_name(), "a_name_that_is_too_long_for_a_string_of_its_own");
+    EXPECT_EQ(top.get_port_object(a.get_name()), &a);
+}
+
 TEST_F(Element, ACopiedGeneratorTakesTheStateAndOwnsNothing)
 {
     design top(nullptr);

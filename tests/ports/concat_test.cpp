@@ -35,6 +35,16 @@ protected:
     GNL_PORT_INPUT & s = top.input("s");
 };
 
+TEST_F(Concat, IsDeclaredWithTheWidthOfItsFirstTwoOperands)
+{
+    auto & all = ((a, b), s);
+    EXPECT_EQ(all.get_width(), 7);
+    EXPECT_EQ(all.get_original_width(), 6);
+    all.add_port_higher_end(b);
+    EXPECT_EQ(all.get_width(), 9);
+    EXPECT_EQ(all.get_original_width(), 6);
+}
+
 TEST_F(Concat, HoldsTheLeftOperandAtTheHighEnd)
 {
     auto & both = (a, b);

@@ -117,6 +117,38 @@ TEST_F(PortModel, ACopyHasItsOwnConstantAndOptionsAndIsInNoRegistry)
     EXPECT_EQ(top.get_port_object("y"), &y);
 }
 
+TEST_F(PortModel, ACopyKeepsItsRowsAndTheWidthOfOneSlice)
+{
+    design top(nullptr);
+    GNL_PORT_INPUT const rows(&top, "rows", 3, 4);
+    GNL_PORT_INPUT copy(rows);
+    EXPECT_EQ(copy.get_width(), 12);
+    EXPECT_EQ(copy.get_2d_width(), 4);
+    EXPECT_EQ(copy.get_original_width(), 3);
+    copy.set_width_safe(24, false);
+    EXPECT_EQ(copy.get_width(), 24);
+    EXPECT_EQ(copy.get_original_width(), 3);
+    copy.set_width_safe(6, true);
+    EXPECT_EQ(copy.get_original_width(), 6);
+    EXPECT_EQ(copy.get_2d_width(), 4);
+    EXPECT_EQ(rows.get_default_width(), 12);
+    EXPECT_EQ(rows.get_original_width(), 3);
+}
+
+TEST_F(PortModel, TheWidthOfOneSliceOutlastsThatOfTheArray)
+{
+    design top(nullptr);
+    auto & a = top.input("a", 4);
+    a.set_width_safe(12, false);
+    a.set_width_safe(4, false);
+    EXPECT_EQ(a.get_original_width(), 4);
+    a.set_width_safe(12, false);
+    a.set_width_safe(8, true);
+    EXPECT_EQ(a.get_default_width(), 8);
+    EXPECT_EQ(a.get_original_width(), 8);
+    EXPECT_EQ(a.get_2d_width(), 0);
+}
+
 // ---- Names and keys
 
 TEST_F(PortModel, NamesAreCaseInsensitiveAndKeepTheirSpelling)

@@ -24,7 +24,7 @@ bool LESS_C_STRING::operator()(std::string_view a, std::string_view b) const noe
 
 GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name)
     : m_parent(parent)
-    , m_name(std::make_unique<std::string>(name))
+    , m_name(name)
 {
     if (static_cast<GNL_ELEMENT *>(m_parent) == this)
         m_parent = nullptr; // reported when the generator exists
@@ -34,7 +34,7 @@ GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name)
 
 GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name, parameter_tag)
     : m_parent(parent)
-    , m_name(std::make_unique<std::string>(name))
+    , m_name(name)
 {
     if (!m_parent)
         return;
@@ -48,7 +48,7 @@ GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::string const & name, param
 
 GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::uint32_t number)
     : m_parent(parent)
-    , m_late_number(number)
+    , m_name(number)
 {
     if (m_parent)
         m_parent->insert(this, "");
@@ -56,7 +56,7 @@ GNL_ELEMENT::GNL_ELEMENT(GNL_GENERATOR * parent, std::uint32_t number)
 
 GNL_ELEMENT::GNL_ELEMENT(GNL_ELEMENT const & other)
     : m_parent(other.m_parent)
-    , m_name(std::make_unique<std::string>(other.get_name()))
+    , m_name(other.get_name())
 {
 }
 
@@ -87,12 +87,6 @@ std::string GNL_ELEMENT::generate_key() const
     return get_name();
 }
 
-void GNL_ELEMENT::set_name(std::string const & name)
-{
-    m_name = std::make_unique<std::string>(name);
-    m_late_number = 0;
-}
-
 std::string GNL_ELEMENT::make_late_name(std::uint32_t) const
 {
     return {};
@@ -104,18 +98,16 @@ std::string const & GNL_ELEMENT::late_name() const
     std::vector<GNL_ELEMENT const *> waiting{this};
     while (!waiting.empty()) {
         GNL_ELEMENT const & next = *waiting.back();
-        GNL_ELEMENT const * const source = next.m_name ? nullptr : next.late_name_source();
+        GNL_ELEMENT const * const source = next.m_name.is_made() ? nullptr : next.late_name_source();
         if (source && source->has_late_name()) {
             waiting.push_back(source);
             continue;
         }
         waiting.pop_back();
-        if (!next.m_name)
-            next.m_name = std::make_unique<std::string>(next.has_late_name() ? next.make_late_name(next.m_late_number)
-                                                                             : std::string());
-        next.m_late_number = 0;
+        if (!next.m_name.is_made())
+            next.m_name.set(next.has_late_name() ? next.make_late_name(next.m_name.number()) : std::string());
     }
-    return *m_name;
+    return m_name.text();
 }
 
 std::string GNL_ELEMENT::get_hierarchical_name() const

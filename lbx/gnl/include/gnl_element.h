@@ -11,6 +11,51 @@ namespace gnl_detail {
 class element_registry;
 class option_set;
 class subdesign_names;
+
+/// A name, or the number that it is made from when it is first needed. Designs have elements by the million, so both
+/// share one word: the number stands in its upper bits, marked by the lowest, which no address has.
+class element_name
+{
+public:
+    explicit element_name(std::string const & text)
+        : m_word(word_of(text))
+    {
+    }
+    /// A late name; with 0 there will be none.
+    explicit element_name(std::uint32_t number)
+        : m_word(number == 0 ? 0 : std::uintptr_t{number} << 1 | 1)
+    {
+    }
+    ~element_name() { drop(); }
+    element_name(element_name const &) = delete;
+    element_name & operator=(element_name const &) = delete;
+
+    bool is_made() const { return m_word != 0 && (m_word & 1) == 0; }
+    /// Of a name that is made.
+    std::string const & text() const { return *owned(); }
+    /// Of a late name; 0 for any other.
+    std::uint32_t number() const { return is_made() ? 0 : static_cast<std::uint32_t>(m_word >> 1); }
+    void set(std::string const & text)
+    {
+        auto const word = word_of(text); // `text` may be the name itself
+        drop();
+        m_word = word;
+    }
+
+private:
+    static std::uintptr_t word_of(std::string const & text)
+    {
+        return reinterpret_cast<std::uintptr_t>(std::make_unique<std::string>(text).release());
+    }
+    std::string * owned() const { return reinterpret_cast<std::string *>(m_word); }
+    void drop()
+    {
+        if (is_made())
+            delete owned();
+    }
+
+    std::uintptr_t m_word; ///< owns the text that it points to
+};
 } // namespace gnl_detail
 
 /// Generation languages, the values of `GNL_ELEMENT::get_gen_language`.
@@ -42,7 +87,7 @@ public:
     /// Unregisters the element.
     virtual ~GNL_ELEMENT();
 
-    std::string const & get_name() const { return m_name ? *m_name : late_name(); }
+    std::string const & get_name() const { return m_name.is_made() ? m_name.text() : late_name(); }
     /// Renames the element and files it under its new key.
     void change_name(std::string const & name);
     /// Files the element anew, after something in its key has changed.
@@ -79,8 +124,8 @@ protected:
     /// Takes parent and name, except on a registered element, which stays what and where it is.
     GNL_ELEMENT & operator=(GNL_ELEMENT const & other);
 
-    void set_name(std::string const & name);
-    bool has_late_name() const { return m_late_number != 0; }
+    void set_name(std::string const & name) { m_name.set(name); }
+    bool has_late_name() const { return m_name.number() != 0; }
     /// The name that `number` stands for; that of `late_name_source` is there already.
     virtual std::string make_late_name(std::uint32_t number) const;
     /// Whose name is part of this one's; null for nobody. Not owned.
@@ -98,8 +143,7 @@ private:
 
     std::string const & late_name() const;
 
-    GNL_GENERATOR * m_parent;                    ///< not owned
-    mutable std::unique_ptr<std::string> m_name; ///< null while it is late
-    std::uint32_t m_slot = unregistered;         ///< place in the parent's registry, for constant-time removal
-    mutable std::uint32_t m_late_number = 0;     ///< of a late name; 0 if it is not late
+    GNL_GENERATOR * m_parent; ///< not owned
+    mutable gnl_detail::element_name m_name;
+    std::uint32_t m_slot = unregistered; ///< place in the parent's registry, for constant-time removal
 };

@@ -5,6 +5,7 @@
 #include "mlib_uinteger.h"
 
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -170,9 +171,9 @@ public:
     unsigned constant_driving_value_as_int() const;
     GNL_GENERATOR * get_connection_level() const { return m_connection_level; }
     void set_connection_level(GNL_GENERATOR * level) { m_connection_level = level; }
-    int get_2d_width() const { return m_width_2d; }
+    int get_2d_width() const { return m_extras ? m_extras->width_2d : 0; }
     /// The declared width of one slice.
-    int get_original_width() const { return m_original_width; }
+    int get_original_width() const { return m_extras && m_extras->slice_width ? *m_extras->slice_width : m_width; }
     /// The width as it stands, without settling anything.
     int get_default_width() const { return m_width; }
     bool same_as_parent(GNL_GENERATOR * generator) const { return generator == get_parent(); }
@@ -285,24 +286,30 @@ protected:
     /// a pin as used. Defined in ports/gnl_port_range_connection.cpp.
     GNL_PORT_CONCAT & driver_of_pieces(GNL_GENERATOR * level);
 
-    /// Sets the width of an object that the operators make.
-    void set_made_width(int width) { m_width = m_original_width = width; }
+    /// The width changes, and that of one slice with it.
+    void declare_width(int width);
+    /// The width changes, and that of one slice stays.
+    void change_width(int width);
 
     /// What few ports have; a design has ports by the million.
     struct extras
     {
+        extras() = default;
+        extras(extras const & other);
+        extras & operator=(extras const &) = delete;
+
         std::unique_ptr<MLIB_UINTEGER> constant;
         std::vector<std::string> internal_options;
+        std::optional<int> slice_width; ///< declared width of one slice, if it isn't that of the whole
+        int width_2d = 0;
     };
     extras & made_extras();
     void set_constant(std::unique_ptr<MLIB_UINTEGER> constant);
 
+    int m_width;                                  ///< of the whole array, 0 for a scalar; fills up the element's words
     GNL_PORT * m_driver = nullptr;                ///< not owned
     std::unique_ptr<extras> m_extras;             ///< null while there are none
     GNL_GENERATOR * m_connection_level = nullptr; ///< not owned
-    int m_width;                                  ///< of the whole array, 0 for a scalar
-    int m_original_width;                         ///< declared width of one slice
-    int m_width_2d;
     int m_driver_count = 0;
     bool m_driven_by_constant : 1 = false;
     bool m_create_vhdl_loop : 1 = false;

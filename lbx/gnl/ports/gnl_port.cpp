@@ -14,27 +14,26 @@ using gnl_detail::port_place;
 
 GNL_PORT::GNL_PORT(GNL_GENERATOR * parent, std::string const & name, int width, int width_2d)
     : GNL_ELEMENT(parent, name)
-    , m_width(width_2d == 0 ? width : gnl_detail::saturated(static_cast<long long>(width) * width_2d))
-    , m_original_width(width)
-    , m_width_2d(width_2d)
+    , m_width(width)
 {
+    if (width_2d == 0)
+        return;
+    made_extras().width_2d = width_2d;
+    change_width(gnl_detail::saturated(static_cast<long long>(width) * width_2d));
 }
 
 GNL_PORT::GNL_PORT(GNL_GENERATOR * parent, std::uint32_t late_number, int width)
     : GNL_ELEMENT(parent, late_number)
     , m_width(width)
-    , m_original_width(width)
-    , m_width_2d(0)
 {
 }
 
 GNL_PORT::GNL_PORT(GNL_PORT const & other)
     : GNL_ELEMENT(other)
-    , m_driver(other.m_driver)
-    , m_connection_level(other.m_connection_level)
     , m_width(other.m_width)
-    , m_original_width(other.m_original_width)
-    , m_width_2d(other.m_width_2d)
+    , m_driver(other.m_driver)
+    , m_extras(other.m_extras ? std::make_unique<extras>(*other.m_extras) : nullptr)
+    , m_connection_level(other.m_connection_level)
     , m_driver_count(other.m_driver_count)
     , m_driven_by_constant(other.m_driven_by_constant)
     , m_create_vhdl_loop(other.m_create_vhdl_loop)
@@ -46,10 +45,14 @@ GNL_PORT::GNL_PORT(GNL_PORT const & other)
     , m_use_parent_source_name(other.m_use_parent_source_name)
     , m_driver_removal_done(other.m_driver_removal_done)
 {
-    if (auto const * const constant = other.constant_driving_value_as_mlib_int())
-        set_constant(std::make_unique<MLIB_UINTEGER>(*constant));
-    if (other.has_qelvar_internal_options())
-        made_extras().internal_options = other.m_extras->internal_options;
+}
+
+GNL_PORT::extras::extras(extras const & other)
+    : constant(other.constant ? std::make_unique<MLIB_UINTEGER>(*other.constant) : nullptr)
+    , internal_options(other.internal_options)
+    , slice_width(other.slice_width)
+    , width_2d(other.width_2d)
+{
 }
 
 GNL_PORT::~GNL_PORT() = default;
@@ -247,7 +250,7 @@ std::string GNL_PORT::constant_driving_value(int index)
 {
     std::string const bits = constant_driving_value();
     long long const width = get_bus_width();
-    long long const slice_width = m_original_width;
+    long long const slice_width = get_original_width();
     long long const at = index;
     // The count stands as it is on purpose: at index 1 the text runs to the end of the constant.
     if (slice_width != 0 && slice_width != 1)

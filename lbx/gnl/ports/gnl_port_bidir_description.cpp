@@ -91,7 +91,7 @@ void GNL_PORT_BIDIR::dump_special_driver_description(std::ostream & out, GNL_GEN
         if (!is_vhdl())
             return;
         bool const one_slice = port_place(*this).slices() == 1;
-        if (driven.get_original_width() == 1 && m_original_width == 0 && one_slice)
+        if (driven.get_original_width() == 1 && get_original_width() == 0 && one_slice)
             out << "(0)";
         else if (index != -1)
             out << "(" << index << ")";

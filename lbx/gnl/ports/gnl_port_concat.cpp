@@ -73,7 +73,7 @@ GNL_PORT_CONCAT::GNL_PORT_CONCAT(GNL_GENERATOR * parent, GNL_PORT & high, GNL_PO
 {
     add_port_lower_end(high);
     add_port_lower_end(low);
-    set_made_width(m_width);
+    declare_width(m_width);
 }
 
 GNL_PORT_CONCAT::GNL_PORT_CONCAT(GNL_GENERATOR * parent, int width)

@@ -111,7 +111,7 @@ void GNL_PORT_CONCAT::add_port_higher_end(GNL_PORT & port)
         *highest = merged(element, *highest);
     else
         m_elements->push_highest(element);
-    m_width = width;
+    change_width(width);
 }
 
 void GNL_PORT_CONCAT::add_port_lower_end(GNL_PORT & port)
@@ -119,7 +119,7 @@ void GNL_PORT_CONCAT::add_port_lower_end(GNL_PORT & port)
     loop_if_logic(port);
     int const added = port.get_bus_width();
     m_elements->raise(added);
-    m_width = plus(m_width, added);
+    change_width(plus(m_width, added));
     GNL_SUBCONCAT const element{&port, plus(added, -1), 0};
     GNL_SUBCONCAT * const lowest = m_elements->lowest();
     if (lowest && can_merge(*lowest, element))

@@ -59,7 +59,7 @@ bool GNL_PORT::check_slices()
     if (!parent)
         return true;
     if (parent->is_master_array())
-        return parent->check_slices_for_port_assignment(get_name(), m_original_width, 0, get_width() - 1);
+        return parent->check_slices_for_port_assignment(get_name(), get_original_width(), 0, get_width() - 1);
     if (parent->get_slice_index() < 0)
         return true;
     return check_slices(get_bus_width() - 1, 0);
@@ -71,7 +71,7 @@ bool GNL_PORT::check_slices(int high, int low)
     if (!parent)
         return true;
     if (parent->is_master_array())
-        return parent->check_slices_for_port_assignment(get_name(), m_original_width, low, high);
+        return parent->check_slices_for_port_assignment(get_name(), get_original_width(), low, high);
     if (parent->get_slice_index() < 0)
         return true;
     GNL_PORT * on_array = port_of_array_beside(*this);

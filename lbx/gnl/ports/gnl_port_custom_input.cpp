@@ -160,7 +160,7 @@ void GNL_PORT_INPUT::dump_custom_constant_port_assignment(std::ostream & out, GN
 {
     if (!is_vhdl())
         return;
-    bool const is_bit = m_original_width <= 1 && check_port_has_valid_driver()
+    bool const is_bit = get_original_width() <= 1 && check_port_has_valid_driver()
                         && !(m_driver && custom_input(*this, level, {0, use_index}).is_one_element_vector());
     char const quote = is_bit ? '\'' : '"';
     out << quote << value << quote;

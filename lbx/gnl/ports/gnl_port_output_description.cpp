@@ -85,9 +85,9 @@ void GNL_PORT_OUTPUT::dump_custom_port_description(std::ostream & out, GNL_GENER
     text_sink text(out);
     text << get_source_name(true);
     port_place const place(*this);
-    int const width = m_original_width > 0 ? m_original_width : 1;
+    int const width = get_original_width() > 0 ? get_original_width() : 1;
     if (use_index && index >= 0)
-        write_custom_part(text, width, index, m_original_width > 0 || place.slices() > 1 || m_vhdl_array_wire);
+        write_custom_part(text, width, index, get_original_width() > 0 || place.slices() > 1 || m_vhdl_array_wire);
     else if (place.connected_as_whole())
         write_custom_part(text, width, place.slice_index(), true);
 }

@@ -206,9 +206,9 @@ private:
 
 GNL_PORT_OUTPUT_RANGE & GNL_PORT::range(int high, int low)
 {
-    if (m_width_2d > 0) {
-        high = saturated((high + 1LL) * m_width_2d - 1);
-        low = saturated(static_cast<long long>(low) * m_width_2d);
+    if (int const width_2d = get_2d_width(); width_2d > 0) {
+        high = saturated((high + 1LL) * width_2d - 1);
+        low = saturated(static_cast<long long>(low) * width_2d);
     }
     GNL_GENERATOR * const level = find_connection_level();
     if (GNL_GENERATOR * const parent = get_parent())

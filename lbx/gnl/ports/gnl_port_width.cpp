@@ -49,8 +49,23 @@ GNL_PORT & GNL_PORT::set_width_safe(int width, bool set_original)
         report<port_message::negative_width>(*parent, get_hierarchical_name(), width);
         return *this;
     }
-    m_width = width;
     if (set_original)
-        m_original_width = width;
+        declare_width(width);
+    else
+        change_width(width);
     return *this;
+}
+
+void GNL_PORT::declare_width(int width)
+{
+    m_width = width;
+    if (m_extras)
+        m_extras->slice_width.reset();
+}
+
+void GNL_PORT::change_width(int width)
+{
+    if (width != m_width)
+        made_extras().slice_width = get_original_width();
+    m_width = width;
 }
