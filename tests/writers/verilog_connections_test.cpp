@@ -22,7 +22,31 @@ public:
     }
 };
 
+/// A wire with a description of its own.
+class described : public GNL_WIRE
+{
+public:
+    using GNL_WIRE::GNL_WIRE;
+    using GNL_WIRE::operator=;
+    void dump_port_description(std::ostream & out, GNL_GENERATOR *, bool, GNL_PORT *) override
+    {
+        out << "`" << get_name();
+    }
+};
+
 } // namespace
+
+TEST_F(VerilogConnections, ReadAnAuthorsWireAsItDescribesItself)
+{
+    top_design top;
+    auto & y = top.output("y", 2);
+    y.set_used();
+    auto & macro = *new described(&top, "macro", 2);
+    macro = top.input("a", 2);
+    top.set_port_to_used("a");
+    y = macro;
+    EXPECT_NE(connections(top).find("y = `macro"), std::string::npos);
+}
 
 TEST_F(VerilogConnections, AreEmptyWithoutAssignments)
 {

@@ -1,6 +1,5 @@
 #include "description_writer.h"
 
-#include <iterator>
 #include <utility>
 
 namespace gnl_detail {
@@ -19,7 +18,7 @@ void description_writer::run(GNL_PORT & port, GNL_GENERATOR * level, bool with_i
     describe({&port, level, target, with_index});
     stack_pending();
     while (!m_stack.empty()) {
-        piece next = std::move(m_stack.back());
+        piece const next = m_stack.back();
         m_stack.pop_back();
         write(next);
         stack_pending();
@@ -30,8 +29,7 @@ void description_writer::stack_pending()
 {
     if (m_pending.empty())
         return;
-    m_stack.insert(m_stack.end(), std::make_move_iterator(m_pending.rbegin()),
-                   std::make_move_iterator(m_pending.rend()));
+    m_stack.insert(m_stack.end(), m_pending.rbegin(), m_pending.rend());
     m_pending.clear();
 }
 
@@ -40,7 +38,15 @@ void description_writer::text(std::string_view text)
     if (m_pending.empty())
         m_text << text;
     else
-        m_pending.emplace_back(std::string(text));
+        m_pending.emplace_back(kept_text{m_texts.keep(std::string(text))});
+}
+
+void description_writer::word(std::string_view text)
+{
+    if (m_pending.empty())
+        m_text << text;
+    else
+        m_pending.emplace_back(text);
 }
 
 void description_writer::port(GNL_PORT & port, GNL_GENERATOR * level, bool with_index, GNL_PORT * target)
@@ -57,22 +63,33 @@ void description_writer::call(action step)
     if (m_pending.empty())
         step(m_text.stream());
     else
-        m_pending.emplace_back(std::move(step));
+        m_pending.emplace_back(kept_action{m_actions.keep(std::move(step))});
 }
 
-void description_writer::write(piece & next)
+void description_writer::write(piece const & next)
 {
-    if (auto const * text = std::get_if<std::string>(&next))
-        m_text << *text;
+    if (auto const * word = std::get_if<std::string_view>(&next))
+        m_text << *word;
     else if (auto const * of = std::get_if<reference>(&next))
         describe(*of);
+    else if (auto const * text = std::get_if<kept_text>(&next))
+        m_text << m_texts.take(text->index);
     else
-        std::get<action>(next)(m_text.stream());
+        m_actions.take(std::get<kept_action>(next).index)(m_text.stream());
 }
 
 void description_writer::describe(reference const & of)
 {
     of.port->describe(*this, of.level, of.with_index, of.target);
+}
+
+void write_reference(text_sink & text, GNL_PORT & port, GNL_GENERATOR * level, bool with_index, GNL_PORT * target)
+{
+    // Declared ports may be of an author's own class, with a description of their own.
+    if (port.is_simple_port())
+        port.dump_port_description(text.stream(), level, with_index, target);
+    else
+        description_writer(text).run(port, level, with_index, target);
 }
 
 } // namespace gnl_detail

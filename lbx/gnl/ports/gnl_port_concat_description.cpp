@@ -59,39 +59,35 @@ public:
     void describe()
     {
         int position = m_concat.get_bus_width();
-        m_writer.text(GNL_ELEMENT::is_verilog() ? "{" : "( ");
-        for (int first = 0; first < m_concat.get_element_count();) {
-            int const last = last_of_run(first);
-            GNL_SUBCONCAT const run{element(first).port, element(first).high_index, element(last).low_index};
+        int const count = m_concat.get_element_count();
+        m_writer.word(GNL_ELEMENT::is_verilog() ? "{" : "( ");
+        for (int first = 0; first < count;) {
+            GNL_SUBCONCAT run = element(first);
+            GNL_SUBCONCAT last = run;
+            int end = first + 1;
+            for (; end < count && continues(last, element(end)); ++end)
+                last = element(end);
+            run.low_index = last.low_index;
             if (run.high_index != position - 1)
                 hole(position - 1, run.high_index, position - run.high_index - 1);
-            bool const alone =
-                last - first + 1 == m_concat.get_element_count() && !m_list.started() && run.low_index == 0;
+            bool const alone = end - first == count && !m_list.started() && run.low_index == 0;
             separate();
             if (GNL_ELEMENT::is_verilog())
                 repeated(run, alone);
-            else if (last > first)
-                slices(run, element(last));
+            else if (end - first > 1)
+                slices(run, last);
             else
                 listed(run, alone);
             position = run.low_index;
-            first = last + 1;
+            first = end;
         }
         if (position != 0)
             hole(position - 1, 0, position);
-        m_writer.text(GNL_ELEMENT::is_verilog() ? "}" : ")");
+        m_writer.word(GNL_ELEMENT::is_verilog() ? "}" : ")");
     }
 
 private:
     GNL_SUBCONCAT const & element(int index) const { return *m_concat.get_concat_element(index); }
-
-    int last_of_run(int first) const
-    {
-        int last = first;
-        while (last + 1 < m_concat.get_element_count() && continues(element(last), element(last + 1)))
-            ++last;
-        return last;
-    }
 
     bool continues(GNL_SUBCONCAT const & upper, GNL_SUBCONCAT const & lower) const
     {
@@ -143,7 +139,7 @@ private:
         });
     }
 
-    void separate() { m_writer.text(m_list.next()); }
+    void separate() { m_writer.word(m_list.next()); }
 
     static int times_of(GNL_SUBCONCAT const & run)
     {
@@ -160,7 +156,7 @@ private:
             m_writer.text((alone ? "" : "{") + text_of(times) + "{");
         reference(*run.port, m_level);
         if (times > 1)
-            m_writer.text(alone ? "}" : "}}");
+            m_writer.word(alone ? "}" : "}}");
     }
 
     /// The other languages have no repetition: a port that is narrower than its bits is listed as often as it fits. One

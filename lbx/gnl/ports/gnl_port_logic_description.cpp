@@ -58,7 +58,7 @@ void write_operand(description_writer & writer, GNL_PORT & x, GNL_PORT & y, GNL_
     if (GNL_ELEMENT::is_verilog() && x.get_bus_width() < y.get_bus_width()) {
         writer.text("{" + std::to_string(y.get_bus_width() / x.get_bus_width()) + "{");
         writer.port(x, level, with_index, target);
-        writer.text("}}");
+        writer.word("}}");
         return;
     }
     bool const index = GNL_ELEMENT::is_vhdl() && needs_index(x, y);
@@ -92,14 +92,14 @@ void GNL_PORT_LOGIC::describe(description_writer & writer, GNL_GENERATOR * level
         write_signal_index(writer.sink(), get_width(), with_index);
         return;
     }
-    writer.text("(");
+    writer.word("(");
     if (m_first_operand && !is_not_port() && m_second_operand) {
         write_operand(writer, *m_first_operand, *m_second_operand, level, with_index, target);
-        writer.text(word_of(m_operation));
+        writer.word(word_of(m_operation));
         write_operand(writer, *m_second_operand, *m_first_operand, level, with_index, target);
     } else if (m_first_operand) {
-        writer.text(word_of(not_operation));
+        writer.word(word_of(not_operation));
         writer.port(*m_first_operand, level, with_index, target);
     }
-    writer.text(")");
+    writer.word(")");
 }

@@ -1,6 +1,7 @@
 #include "lbx/gnl/writers/qhdl_text.h"
 
 #include "lbx/gnl/ports/constant_text.h"
+#include "lbx/gnl/ports/description_writer.h"
 #include "lbx/gnl/ports/reference_text.h"
 #include "lbx/gnl/writers/driver_check.h"
 #include "lbx/gnl/writers/port_kinds.h"
@@ -33,7 +34,7 @@ bool assign_qhdl_sink(text_sink & text, GNL_PORT & sink, GNL_GENERATOR & level)
         write_constant(text, sink.constant_driving_value(), sink.get_bus_width());
     } else if (auto * driver = usable_driver(sink, level)) {
         begin_qhdl_assignment(text, sink, level);
-        driver->dump_port_description(text.stream(), &level, false, &sink);
+        write_reference(text, *driver, &level, false, &sink);
     } else {
         return false;
     }

@@ -1,6 +1,7 @@
 #include "lbx/gnl/writers/verilog_text.h"
 
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/ports/description_writer.h"
 #include "lbx/gnl/writers/port_kinds.h"
 
 namespace gnl_detail {
@@ -24,7 +25,7 @@ void write_port_options(text_sink & text, GNL_PORT & port)
 
 void write_driver(text_sink & text, GNL_GENERATOR & level, GNL_PORT & driver, GNL_PORT & target)
 {
-    driver.dump_port_description(text.stream(), &level, false, &target);
+    write_reference(text, driver, &level, false, &target);
 }
 
 void write_driver(text_sink & text, GNL_GENERATOR & level, GNL_PORT & driver, GNL_PORT & target, bool repeated)

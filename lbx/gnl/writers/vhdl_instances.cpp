@@ -3,6 +3,7 @@
 
 #include "lbx/gnl/core/element_registry.h"
 #include "lbx/gnl/core/one_slice_widths.h"
+#include "lbx/gnl/ports/description_writer.h"
 #include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/driver_check.h"
 #include "lbx/gnl/writers/list_separator.h"
@@ -111,7 +112,7 @@ private:
     }
     void write_driver(GNL_PORT & driver, GNL_PORT * target, bool as_bit)
     {
-        driver.dump_port_description(m_text.stream(), &m_level, as_bit, as_bit ? nullptr : target);
+        write_reference(m_text, driver, &m_level, as_bit, as_bit ? nullptr : target);
     }
 
     void connect_constant(GNL_PORT & port, instance_place place)

@@ -1,5 +1,6 @@
 #include "lbx/gnl/writers/vhdl_statements.h"
 
+#include "lbx/gnl/ports/description_writer.h"
 #include "lbx/gnl/writers/vhdl_signals.h"
 
 #include <algorithm>
@@ -132,7 +133,7 @@ void vhdl_assignments::write_driver(GNL_PORT & driver, GNL_PORT * target, bool a
     if (auto * element = only_element(driver); as_bit && element != nullptr && is_plain_constant(*element))
         m_text << "( '" << element->constant_driving_value() << "')";
     else
-        driver.dump_port_description(m_text.stream(), &m_level, as_bit, as_bit ? nullptr : target);
+        write_reference(m_text, driver, &m_level, as_bit, as_bit ? nullptr : target);
 }
 
 void vhdl_assignments::assign(std::string const & name, int width, GNL_PORT * target, GNL_PORT & driver)
@@ -149,7 +150,7 @@ void vhdl_assignments::assign(std::string const & name, int width, GNL_PORT * ta
         if (driver_bits < bits)
             m_text << "(" << driver_bits - 1 << " DOWNTO 0)";
         m_text << " <= ";
-        driver.dump_port_description(m_text.stream(), &m_level, driver_bits > bits, target);
+        write_reference(m_text, driver, &m_level, driver_bits > bits, target);
         m_text << ";\n";
     }
 }
