@@ -25,6 +25,15 @@ public:
 
     bench::clock::time_point built;
 
+    /// The sections of the Verilog module.
+    void write_text(std::ostream & out)
+    {
+        dump_verilog_module_section(out);
+        dump_verilog_port_section(out);
+        dump_verilog_variables_section(out);
+        dump_verilog_port_connections(out);
+    }
+
 protected:
     virtual void build(int n) = 0;
 
@@ -145,16 +154,6 @@ private:
     GNL_PORT_INPUT clk, d;
     GNL_PORT_OUTPUT q;
     int m_kinds;
-};
-
-/// W2r: N different children, each in a file of its own.
-class hierarchy_of_files : public hierarchy
-{
-public:
-    hierarchy_of_files(std::string const & file, int n)
-        : hierarchy(file, n, n, ",LBX_SINGLE_OUTPUT_FILE=OFF")
-    {
-    }
 };
 
 /// W2s: one array of N slices, each connected by itself to the one before it.
@@ -295,6 +294,9 @@ private:
     bool m_named;
 };
 
+/// Each child design in a file of its own.
+constexpr char const * files_apart = ",LBX_SINGLE_OUTPUT_FILE=OFF";
+
 std::unique_ptr<timed_design> make(std::string const & workload, std::string const & file, int n)
 {
     if (workload == "W1")
@@ -306,7 +308,9 @@ std::unique_ptr<timed_design> make(std::string const & workload, std::string con
     if (workload == "W2s")
         return std::make_unique<array_of_slices>(file, n);
     if (workload == "W2r")
-        return std::make_unique<hierarchy_of_files>(file, n);
+        return std::make_unique<hierarchy>(file, n, n, files_apart);
+    if (workload == "W2f")
+        return std::make_unique<hierarchy>(file, n, std::max(1, n / 10), files_apart);
     if (workload == "W3")
         return std::make_unique<wide_concatenation>(file, n);
     if (workload == "W4")
@@ -330,6 +334,21 @@ struct run_request
     std::string file;
 };
 
+/// Writes the top of a design that has been generated once more, into a file of its own: the text alone, without the
+/// checks and the clean-up that came before it.
+void write_text_again(timed_design & top, bench::run_result & result)
+{
+    auto const start = bench::clock::now();
+    {
+        GNL_OFSTREAM file("again", GNL_OFSTREAM::output_mode);
+        top.write_text(file);
+        file.close();
+    }
+    result.text_seconds = bench::seconds_since(start);
+    result.text_bytes = static_cast<long long>(std::filesystem::file_size("again"));
+    std::filesystem::remove("again");
+}
+
 /// Generates the design into the working folder. The child designs stay with their top: destroying them is part of
 /// neither time.
 bench::run_result generate(run_request const & wanted, int n)
@@ -347,6 +366,9 @@ bench::run_result generate(run_request const & wanted, int n)
             std::cerr << top->get_cur_msg()->get_msg_text() << "\n";
         throw std::runtime_error("the generation failed");
     }
+    result.kilobytes = bench::peak_kilobytes();
+    if (wanted.file == "top.v" && wanted.workload != "W2r")
+        write_text_again(*top, result);
     return result;
 }
 

@@ -15,8 +15,11 @@ namespace bench {
 struct run_result
 {
     double build_seconds = 0;
-    double write_seconds = 0;
+    double write_seconds = 0; ///< checks and clean-up included
     long long bytes_written = 0;
+    double text_seconds = 0; ///< writing alone; 0 where it is not measured apart
+    long long text_bytes = 0;
+    long kilobytes = 0; ///< peak memory of what counts; 0 for that of the whole run
 };
 
 using clock = std::chrono::steady_clock;
@@ -33,8 +36,8 @@ inline long peak_kilobytes()
     return usage.ru_maxrss;
 }
 
-/// usage: PROGRAM WORKLOAD N. Prints "workload N build write kilobytes bytes"; the workload "empty" measures the
-/// program itself.
+/// usage: PROGRAM WORKLOAD N. Prints "workload N build write kilobytes bytes text_seconds text_bytes"; the workload
+/// "empty" measures the program itself.
 inline int main_of(int argc, char ** argv, std::function<run_result(std::string const &, int)> const & run)
 {
     if (argc != 3) {
@@ -44,8 +47,9 @@ inline int main_of(int argc, char ** argv, std::function<run_result(std::string 
     std::string const workload = argv[1];
     int const n = std::atoi(argv[2]);
     run_result const result = workload == "empty" ? run_result{} : run(workload, n);
-    std::printf("%s %d %.6f %.6f %ld %lld\n", workload.c_str(), n, result.build_seconds, result.write_seconds,
-                peak_kilobytes(), result.bytes_written);
+    std::printf("%s %d %.6f %.6f %ld %lld %.6f %lld\n", workload.c_str(), n, result.build_seconds, result.write_seconds,
+                result.kilobytes ? result.kilobytes : peak_kilobytes(), result.bytes_written, result.text_seconds,
+                result.text_bytes);
     return 0;
 }
 
