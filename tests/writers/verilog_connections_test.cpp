@@ -42,9 +42,12 @@ TEST_F(VerilogConnections, ReadAnAuthorsWireAsItDescribesItself)
     auto & y = top.output("y", 2);
     y.set_used();
     auto & macro = *new described(&top, "macro", 2);
-    macro = top.input("a", 2);
-    top.set_port_to_used("a");
-    y = macro;
+    auto & a = top.input("a", 2);
+    a.set_used();
+    top.connect([&] {
+        macro = a;
+        y = macro;
+    });
     EXPECT_NE(connections(top).find("y = `macro"), std::string::npos);
 }
 
