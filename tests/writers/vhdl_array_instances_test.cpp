@@ -409,6 +409,7 @@ TEST_F(VhdlUnrolledArrays, SlicesConnectWhatTheArrayDoesNot)
                                   "\tloop0 : FOR i IN 0 TO 3 GENERATE \n"
                                   "\t\twire_arr_w_lg_p4w(i) <= wire_arr_1p(i) AND wire_arr_0q;\n"
                                   "\tEND GENERATE loop0;\n"
+                                  "\twire_arr_0k <= \"10\";\n"
                                   "\twire_arr_1b <= (NOT s);\n"
                                   "\tarr_0 :  blk\n"
                                   "\t  PORT MAP ( \n"

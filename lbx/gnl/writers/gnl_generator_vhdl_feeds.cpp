@@ -80,7 +80,7 @@ private:
             if (!check_driver(m_level, port, *driver))
                 return;
             feed_signal(port, *driver);
-        } else if (is_constant_input(port) && port.get_width() > 1 && m_subdesign.get_slice_index() < 0) {
+        } else if (is_constant_input(port) && port.get_width() > 1) {
             m_assign.assign(port.get_source_name(true), m_level.vhdl_constant_text(port));
         }
         if (has_2d_signal(port))
