@@ -450,6 +450,46 @@ TEST_F(Range, AHundredThousandRangesDeep)
     EXPECT_EQ(part->generate_key().substr(0, 8), "RNG;RNG;");
 }
 
+TEST_F(Range, AHundredThousandRangesDeepEachAskedOnTheWay)
+{
+    auto & a = top.input("a", 8);
+    GNL_PORT * part = &a;
+    for (int i = 0; i < 100000; ++i) {
+        part = &part->range(part->get_width() - 1, i % 25000 == 24999 ? 1 : 0);
+        ASSERT_TRUE(part->check_rhs(&top));
+        ASSERT_EQ(described(*part, top), "a[7:" + std::to_string((i + 1) / 25000) + "]");
+    }
+    EXPECT_EQ(part->get_width(), 4);
+}
+
+TEST_F(Range, AHundredThousandRangesDeepOnSlicesInQhdl)
+{
+    top.set_gen_language(GNL_QHDL);
+    auto & array = top.child("cell", "u", "", 3);
+    array.declare_slice = [](design & slice) { slice.output("q", 4); };
+    array.declare_slice(array);
+    GNL_PORT * part = &array.port("q");
+    for (int i = 0; i < 100000; ++i)
+        part = &part->range(11, 0);
+    EXPECT_EQ(described(part->range(7, 4), top), "u[1..1].q[3..0]");
+    EXPECT_EQ(part->range(6, 3).get_range_driver()->is_wire(), true) << "cut out of two slices";
+}
+
+TEST_F(Range, OfARangeFollowsItsExchangedDriver)
+{
+    auto & a = top.input("a", 8);
+    auto & b = top.input("b", 8);
+    auto & outer = a.range(6, 1);
+    auto & middle = outer.range(4, 1);
+    auto & inner = middle.range(2, 1);
+    EXPECT_EQ(described(inner, top), "a[4:3]");
+    outer.replace_range_driver(&b);
+    EXPECT_EQ(described(inner, top), "b[4:3]");
+    middle.replace_range_driver(&b.range(7, 3));
+    EXPECT_EQ(described(inner, top), "b[6:5]");
+    EXPECT_EQ(described(middle, top), "b[7:4]");
+}
+
 TEST_F(Range, OfExpressionsOfRangesFiftyThousandDeep)
 {
     auto & a = top.input("a", 8);

@@ -214,4 +214,24 @@ GNL_GENERATOR * element_registry::find_instance(std::string_view instance_name)
     return first == found.end() ? nullptr : element_at<GNL_GENERATOR>(*first);
 }
 
+range_base const * element_registry::known_range_base(GNL_PORT_OUTPUT_RANGE const & range) const
+{
+    if (!m_seldom || !knows(range))
+        return nullptr;
+    auto const found = m_seldom->range_bases.find(range.m_slot);
+    return found == m_seldom->range_bases.end() ? nullptr : &found->second;
+}
+
+void element_registry::keep_range_base(GNL_PORT_OUTPUT_RANGE const & range, range_base const & base)
+{
+    if (knows(range))
+        seldom().range_bases[range.m_slot] = base;
+}
+
+void element_registry::forget_range_bases()
+{
+    if (m_seldom)
+        m_seldom->range_bases.clear();
+}
+
 } // namespace gnl_detail

@@ -5,6 +5,7 @@
 
 #include "lbx/gnl/core/growing_table.h"
 #include "lbx/gnl/core/key_text.h"
+#include "lbx/gnl/ports/range_base.h"
 
 #include <array>
 #include <cstdint>
@@ -124,6 +125,17 @@ public:
     GNL_GENERATOR * find_instance(std::string_view instance_name);
     /// @}
 
+    /// @name Bases of ranges of ranges
+    /// For `base_of` alone. Defined in core/element_lookup.cpp.
+    /// @{
+
+    /// Null when none is kept, or the range is no element of this registry.
+    range_base const * known_range_base(GNL_PORT_OUTPUT_RANGE const & range) const;
+    void keep_range_base(GNL_PORT_OUTPUT_RANGE const & range, range_base const & base);
+    /// A range selects from something else now.
+    void forget_range_bases();
+    /// @}
+
     /// @name Walks
     /// In key order; each files what is pending first. Defined in core/element_walks.cpp.
     /// @{
@@ -235,6 +247,7 @@ private:
         std::unordered_map<std::uint32_t, std::deque<slot>> waiting; ///< by hash, in order of declaration
         std::map<std::string, slot, LESS_C_STRING> by_explicit_key;
         std::unordered_map<slot, std::string> explicit_keys;
+        std::unordered_map<slot, range_base> range_bases;
         name_index made_names;     ///< of expressions and ranges
         name_index instance_names; ///< of generators
         bool made_renamed = false; ///< an expression or a range has a name that an author chose

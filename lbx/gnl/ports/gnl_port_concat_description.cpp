@@ -5,6 +5,7 @@
 #include "gnl_port_range.h"
 #include "port_messages.h"
 #include "qhdl_nodes.h"
+#include "range_base.h"
 #include "reference_text.h"
 #include "saturated.h"
 
@@ -112,9 +113,7 @@ private:
     /// Signals of their own stand beside some instances, and have no subscript.
     bool has_instance_reference(GNL_PORT & port) const
     {
-        GNL_PORT * base = &port;
-        while (base && base->is_range_port())
-            base = static_cast<GNL_PORT_OUTPUT_RANGE *>(base)->get_range_driver();
+        GNL_PORT * const base = gnl_detail::base_port(&port);
         return base && !gnl_detail::has_bidir_node(*base, m_level) && !gnl_detail::has_output_node(*base);
     }
 

@@ -5,6 +5,7 @@
 #include "made_port.h"
 #include "operator_keys.h"
 #include "port_messages.h"
+#include "range_base.h"
 #include "reference_text.h"
 #include "saturated.h"
 
@@ -20,15 +21,6 @@ namespace {
 int width_of(GNL_PORT const * driver, int high, int low)
 {
     return driver ? saturated(static_cast<long long>(high) - low + 1) : 0;
-}
-
-/// The range that stands directly on something that is no range.
-GNL_PORT_OUTPUT_RANGE & innermost(GNL_PORT_OUTPUT_RANGE & range)
-{
-    GNL_PORT_OUTPUT_RANGE * found = &range;
-    while (found->get_range_driver() && found->get_range_driver()->is_range_port())
-        found = static_cast<GNL_PORT_OUTPUT_RANGE *>(found->get_range_driver());
-    return *found;
 }
 
 /// The slices of a port count where the array is connected, not in the design of its slices: there it has the width of
@@ -92,20 +84,14 @@ private:
     /// A range of whole slices can hold bits that no single reference shows.
     bool is_cut_out_of_slices()
     {
-        // Looked at first, as the chain below can be long: in QHDL alone slices count, and ranges have their port's
-        // parent.
+        // In QHDL alone slices count. Ranges have their port's parent.
         if (!GNL_ELEMENT::is_qhdl() || !m_port.is_range_port() || !has_slices(m_port.get_parent()))
             return false;
         if (!m_port.check_rhs(m_level))
             return false;
-        long long offset = 0;
-        GNL_PORT const * base = &m_port;
-        while (base && base->is_range_port()) {
-            auto const & outer = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*base);
-            offset += outer.get_low_index();
-            base = outer.get_range_driver();
-        }
-        return base && !gnl_detail::can_select(*base, saturated(m_high + offset), saturated(m_low + offset));
+        auto const base = gnl_detail::base_of(static_cast<GNL_PORT_OUTPUT_RANGE &>(m_port));
+        return base.port
+               && !gnl_detail::can_select(*base.port, saturated(m_high + base.low), saturated(m_low + base.low));
     }
 
     GNL_PORT_OUTPUT_RANGE & on_port()
@@ -261,6 +247,8 @@ void GNL_PORT_OUTPUT_RANGE::replace_range_driver(GNL_PORT * driver)
 {
     static_cast<void>(get_name()); // which holds that of the first one
     m_range_driver = driver;
+    if (GNL_GENERATOR * parent = get_parent())
+        parent->registry().forget_range_bases();
 }
 
 std::string GNL_PORT_OUTPUT_RANGE::generate_key_base(std::string const & base, int high, int low)
@@ -280,7 +268,7 @@ std::string GNL_PORT_OUTPUT_RANGE::get_hierarchical_name() const
 
 bool GNL_PORT_OUTPUT_RANGE::check_range_driver_validity(GNL_GENERATOR * level)
 {
-    GNL_PORT const * const driver = innermost(*this).m_range_driver;
+    GNL_PORT const * const driver = gnl_detail::base_of(*this).port;
     if (!driver)
         return true;
     bool const own = driver->get_parent() == level;
@@ -289,8 +277,8 @@ bool GNL_PORT_OUTPUT_RANGE::check_range_driver_validity(GNL_GENERATOR * level)
 
 void GNL_PORT_OUTPUT_RANGE::set_range_port_used()
 {
-    GNL_PORT_OUTPUT_RANGE const & range = innermost(*this);
-    GNL_PORT * const driver = range.m_range_driver;
+    auto const base = gnl_detail::base_of(*this);
+    GNL_PORT * const driver = base.port;
     if (!driver)
         return;
     if (!driver->is_input())
@@ -298,8 +286,9 @@ void GNL_PORT_OUTPUT_RANGE::set_range_port_used()
     else if (!driver->is_used()) {
         if (driver->get_default_value() != -1)
             driver->set_generate_constant_wire();
-        else if (range.get_parent())
-            report<port_message::unconnected_input_in_range>(*range.get_parent(), range.get_hierarchical_name(),
+        else if (base.innermost->get_parent())
+            report<port_message::unconnected_input_in_range>(*base.innermost->get_parent(),
+                                                             base.innermost->get_hierarchical_name(),
                                                              driver->get_hierarchical_name());
     }
 }

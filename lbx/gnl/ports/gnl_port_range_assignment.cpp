@@ -3,8 +3,10 @@
 #include "connection_checks.h"
 #include "gnl_generator.h"
 #include "port_messages.h"
+#include "range_base.h"
 #include "saturated.h"
 
+using gnl_detail::base_of;
 using gnl_detail::constant_fits;
 using gnl_detail::port_message;
 using gnl_detail::report;
@@ -25,15 +27,9 @@ struct range_target
 
 range_target target_of(GNL_PORT_OUTPUT_RANGE const & range)
 {
-    range_target target{range.get_range_driver(), range.get_high_index(), range.get_low_index(), false};
-    while (target.port && target.port->is_range_port()) {
-        auto const & inner = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*target.port);
-        target.high = saturated(static_cast<long long>(target.high) + inner.get_low_index());
-        target.low = saturated(static_cast<long long>(target.low) + inner.get_low_index());
-        target.port = inner.get_range_driver();
-        target.nested = true;
-    }
-    return target;
+    auto const base = base_of(range);
+    long long const width_less_one = static_cast<long long>(range.get_high_index()) - range.get_low_index();
+    return {base.port, saturated(base.low + width_less_one), saturated(base.low), base.innermost != &range};
 }
 
 /// A constant of either kind; the level of the statement has been found already.

@@ -3,11 +3,13 @@
 #include "description_writer.h"
 #include "gnl_generator.h"
 #include "qhdl_nodes.h"
+#include "range_base.h"
 #include "reference_text.h"
 #include "saturated.h"
 
 #include "lbx/gnl/writers/text_sink.h"
 
+using gnl_detail::base_of;
 using gnl_detail::port_place;
 using gnl_detail::port_signal;
 using gnl_detail::saturated;
@@ -27,16 +29,11 @@ struct shown_bits
 /// The bits `first` down to `second` of `range`, or all of it when `first` is negative.
 shown_bits bits_of(GNL_PORT_OUTPUT_RANGE const & range, int first, int second)
 {
-    bool const all = first < 0;
-    shown_bits bits{&range,
-                    saturated(all ? range.get_high_index() : static_cast<long long>(first) + range.get_low_index()),
-                    saturated(all ? range.get_low_index() : static_cast<long long>(second) + range.get_low_index())};
-    while (bits.range->get_range_driver() && bits.range->get_range_driver()->is_range_port()) {
-        bits.range = static_cast<GNL_PORT_OUTPUT_RANGE const *>(bits.range->get_range_driver());
-        bits.high = saturated(static_cast<long long>(bits.high) + bits.range->get_low_index());
-        bits.low = saturated(static_cast<long long>(bits.low) + bits.range->get_low_index());
-    }
-    return bits;
+    auto const base = base_of(range);
+    if (first >= 0)
+        return {base.innermost, saturated(base.low + first), saturated(base.low + second)};
+    long long const width_less_one = static_cast<long long>(range.get_high_index()) - range.get_low_index();
+    return {base.innermost, saturated(base.low + width_less_one), saturated(base.low)};
 }
 
 void write_verilog(text_sink & text, shown_bits const & bits, GNL_GENERATOR const * level)

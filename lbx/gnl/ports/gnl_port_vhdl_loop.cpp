@@ -1,7 +1,9 @@
 // An expression whose operands differ in width is a signal of its own in VHDL, which is assigned bit by bit. The signal
 // is a vector also when the expression is a scalar.
 
+#include "range_base.h"
 #include "reference_text.h"
+#include "saturated.h"
 
 using namespace gnl_detail;
 
@@ -71,16 +73,10 @@ void bit_assignment::write_operand(GNL_PORT & operand) const
 /// A single bit stands for itself; more are reached through what the range is taken from.
 void bit_assignment::write_range(GNL_PORT_OUTPUT_RANGE & range) const
 {
-    GNL_PORT * base = &range;
-    int low = 0;
-    while (base && base->is_range_port()) {
-        auto const & step = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*base);
-        low += step.get_low_index();
-        base = step.get_range_driver();
-    }
-    if (base && range.get_width() > 1) {
-        port_signal const signal = signal_of(*base, m_level);
-        m_out << signal.name << index(signal.low_bit + low);
+    auto const base = base_of(range);
+    if (base.port && range.get_width() > 1) {
+        port_signal const signal = signal_of(*base.port, m_level);
+        m_out << signal.name << index(saturated(signal.low_bit + base.low));
     } else
         range.dump_port_description(m_out, m_level, true, nullptr);
 }

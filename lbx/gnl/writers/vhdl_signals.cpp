@@ -1,6 +1,7 @@
 #include "lbx/gnl/writers/vhdl_signals.h"
 
 #include "lbx/gnl/core/one_slice_widths.h"
+#include "lbx/gnl/ports/range_base.h"
 #include "lbx/gnl/writers/port_kinds.h"
 
 #include <algorithm>
@@ -73,9 +74,7 @@ namespace {
 /// Whether a subdesign's bidirectional port drives one of the design itself, and no other subdesign's.
 bool drives_own_bidir(GNL_PORT_BIDIR const & bidir, GNL_GENERATOR const * level)
 {
-    GNL_PORT const * driven = bidir.get_driven_bidir_port();
-    while (driven != nullptr && driven->is_range_port())
-        driven = static_cast<GNL_PORT_OUTPUT_RANGE const *>(driven)->get_range_driver();
+    GNL_PORT const * const driven = base_port(bidir.get_driven_bidir_port());
     return driven == nullptr || driven->get_parent() == level;
 }
 

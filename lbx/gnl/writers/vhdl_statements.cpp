@@ -1,29 +1,14 @@
 #include "lbx/gnl/writers/vhdl_statements.h"
 
 #include "lbx/gnl/ports/description_writer.h"
+#include "lbx/gnl/ports/range_base.h"
+#include "lbx/gnl/ports/saturated.h"
 #include "lbx/gnl/writers/vhdl_signals.h"
 
 #include <algorithm>
 
 namespace gnl_detail {
 namespace {
-
-/// What a range selects from in the end, and the lowest bit of it. Null for a range that could not be made.
-struct range_base
-{
-    GNL_PORT * port;
-    int low;
-};
-range_base base_of(GNL_PORT & port)
-{
-    range_base base{&port, 0};
-    while (base.port != nullptr && base.port->is_range_port()) {
-        auto const & range = static_cast<GNL_PORT_OUTPUT_RANGE const &>(*base.port);
-        base.low += range.get_low_index();
-        base.port = range.get_range_driver();
-    }
-    return base;
-}
 
 /// The only element of a concatenation, null when it has none or several.
 GNL_PORT * only_element(GNL_PORT & port)
@@ -64,8 +49,8 @@ bool range_reads_as_vector(GNL_PORT & range, GNL_GENERATOR const * level, GNL_PO
 {
     if (target == nullptr || target->get_original_width() <= 0 || target->get_parent() == level)
         return false;
-    auto const base = base_of(range);
-    return base.port != nullptr && signal_of(*base.port, level).is_vector;
+    GNL_PORT * const base = base_port(&range);
+    return base != nullptr && signal_of(*base, level).is_vector;
 }
 
 /// Whether the expression is written in place, where its operands have to be bits to fit each other.
@@ -104,11 +89,13 @@ port_signal bits_of_driver(GNL_PORT & driver, GNL_GENERATOR const * level)
 {
     if (is_loop_signal(driver, level))
         return {driver.get_source_name(true), 0, loop_signal_width(driver) > 0};
-    auto const base = base_of(driver);
+    if (!driver.is_range_port())
+        return signal_of(driver, level);
+    auto const base = base_of(static_cast<GNL_PORT_OUTPUT_RANGE &>(driver));
     if (base.port == nullptr)
         return {};
     port_signal signal = signal_of(*base.port, level);
-    signal.low_bit += base.low;
+    signal.low_bit = saturated(signal.low_bit + base.low);
     return signal;
 }
 
