@@ -41,4 +41,4 @@ inline bool tool_is_there(std::string const & tool)
 /// Ends the test as skipped, visibly, when an outside tool is missing.
 #define SKIP_WITHOUT(TOOL)                                                                                             \
     if (!gnl_test::tool_is_there(TOOL))                                                                                \
-    GTEST_SKIP() << TOOL << " is not installed"
+    GTEST_SKIP() << (TOOL) << " is not installed"

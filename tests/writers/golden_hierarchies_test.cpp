@@ -1,13 +1,18 @@
-// Whole runs of designs of several levels: what goes to which file, and under which names.
+// Whole runs of designs of several levels, in each language.
 
-#include "golden_designs.h"
-#include "golden_folder.h"
+#include "golden_hierarchy_designs.h"
 
 using namespace gnl_test;
 
 namespace {
 
-using GoldenHierarchies = in_folder;
+class GoldenHierarchies : public in_table
+{
+};
+
+class GoldenRuns : public in_each_language
+{
+};
 
 /// A design that can tell that it is not supported.
 class box : public design
@@ -17,168 +22,85 @@ public:
     using GNL_GENERATOR::set_not_supported;
 };
 
-std::unique_ptr<design> made_top(std::string const & options)
-{
-    auto top = std::make_unique<design>(nullptr, "top", options.c_str());
-    top->input("d", 4);
-    top->output("q", 4);
-    return top;
-}
-
-/// A row of stages from the port `d` of `level` to its port `q`, one for each value of `held`.
-void row_of_stages(design & level, std::vector<int> const & held)
-{
-    GNL_PORT * previous = &level.port("d");
-    int number = 0;
-    for (int const value : held) {
-        auto & made = stage(level, "s" + std::to_string(++number), 4, value);
-        made.port("d") = *previous;
-        made.port("en") = 1;
-        previous = &made.port("q");
-    }
-    level.port("q") = *previous;
-}
-
-/// A level between: two stages, of which the second has the settings of the first one of the next such level.
-design & pair_of_stages(design & parent, std::string const & instance, int held)
-{
-    auto & made = parent.child("pair", instance);
-    made.input("d", 4);
-    made.output("q", 4);
-    made.integer("HELD", 0) = held;
-    made.body = [](design & of) {
-        int const first = of.parameter_integer("HELD").get_value();
-        row_of_stages(of, {first, first + 1});
-    };
-    return made;
-}
-
-/// Two pairs in a row: five designs in three levels, as one stage serves both pairs.
-std::unique_ptr<design> three_levels(std::string const & options)
-{
-    auto top = made_top(options);
-    top->body = [](design & of) {
-        auto & first = pair_of_stages(of, "p1", 1);
-        auto & second = pair_of_stages(of, "p2", 2);
-        first.port("d") = of.port("d");
-        second.port("d") = first.port("q");
-        of.port("q") = second.port("q");
-    };
-    return top;
-}
-
-/// Two levels, with a stage for each value.
-std::unique_ptr<design> two_levels(std::string const & options, std::vector<int> const & held)
-{
-    auto top = made_top(options);
-    top->body = [held](design & of) { row_of_stages(of, held); };
-    return top;
-}
-
-/// Cells of which the headers "masks K=12 d q" and "masks K=21 d q" have one sum of characters; the sum of
-/// "masks K=13 d q" is the next number, which the second of them has to take.
-std::unique_ptr<design> equal_sums(std::string const & options)
-{
-    auto top = std::make_unique<design>(nullptr, "top", options.c_str());
-    top->input("d", 5);
-    top->output("q", 5);
-    top->body = [](design & of) {
-        GNL_PORT * previous = &of.port("d");
-        int number = 0;
-        for (int const value : {12, 21, 13}) {
-            auto & cell = of.child("masks", "m" + std::to_string(++number));
-            auto & in = cell.input("d", 5);
-            auto & out = cell.output("q", 5);
-            cell.integer("K") = value;
-            cell.body = [](design & own) {
-                auto & mask = own.wire("mask", 5);
-                mask = own.parameter_integer("K").get_value();
-                own.port("q") = own.port("d") ^ mask;
-            };
-            in = *previous;
-            previous = &out;
-        }
-        of.port("q") = *previous;
-    };
-    return top;
-}
-
 } // namespace
 
-TEST_F(GoldenHierarchies, ThreeLevelsInOneFile)
+TEST_P(GoldenHierarchies, LeaveTheirFiles)
 {
-    EXPECT_GOLDEN_THAT_COMPILES(*three_levels("LBX_FILE=top.v"), "three_levels.v");
+    expect_golden();
 }
 
-TEST_F(GoldenHierarchies, ThreeLevelsInFilesOfTheirOwn)
+IN_EACH_LANGUAGE_OF_TABLE(GoldenHierarchies, golden_hierarchies);
+
+class GoldenFixedPrefixes : public in_table
 {
-    EXPECT_GOLDEN_THAT_COMPILES(*three_levels("LBX_FILE=top.v,LBX_SINGLE_OUTPUT_FILE=OFF"), "three_levels_own_files.v");
+};
+
+TEST_P(GoldenFixedPrefixes, LeaveTheirFiles)
+{
+    auto const & [of, in] = GetParam();
+    auto const top = of.make("LBX_FILE=top" + in.ending + of.options);
+    EXPECT_TRUE(leaves_golden(*top, of.name, in));
+    SKIP_WITHOUT(in.ending == ".vhd" ? "ghdl" : "iverilog");
+    auto const files = files_of_run(in.ending) + (in.ending == ".tdf" ? files_of_run(".v") : "");
+    EXPECT_EQ(in.ending == ".vhd" ? vhdl_complaints(files, "top") : verilog_complaints(files, "top"), "");
 }
 
-TEST_F(GoldenHierarchies, AStreamOfTheCallerTakesTheWholeRun)
+IN_EACH_LANGUAGE_OF_TABLE(GoldenFixedPrefixes, golden_fixed_prefixes);
+
+TEST_P(GoldenRuns, AStreamOfTheCallerTakesTheWholeRun)
 {
-    auto const top = two_levels("LBX_FILE=top.v", {1, 2});
+    auto const top = two_levels(into_top(), {1, 2});
     top->set_use_external_ostream();
-    EXPECT_TRUE(leaves_golden(*top, "external_stream.v"));
+    EXPECT_TRUE(leaves_golden(*top, "external_stream", GetParam()));
 }
 
-TEST_F(GoldenHierarchies, TheTextOfAStreamCompiles)
+TEST_P(GoldenRuns, TheTextOfAStreamCompiles)
 {
-    SKIP_WITHOUT("iverilog");
-    auto const top = two_levels("LBX_FILE=top.v", {1, 2});
+    SKIP_WITHOUT_COMPILER();
+    auto const top = two_levels(into_top(), {1, 2});
     top->set_use_external_ostream();
-    std::ofstream("stream.v") << top->run();
-    EXPECT_EQ(complaints_of_compiler(), "");
+    auto const text = top->run();
+    std::ofstream("top" + GetParam().ending) << text;
+    EXPECT_EQ(complaints_of_compiler(GetParam()), "");
 }
 
-TEST_F(GoldenHierarchies, AppendedToWhatIsThere)
+class GoldenAppending : public in_each_language
 {
-    std::ofstream("both.v") << "module other;\nendmodule\n";
-    EXPECT_TRUE(leaves_golden(*two_levels("LBX_FILE=both.v:a:top", {1, 1, 2}), "appended.v"));
-    SKIP_WITHOUT("iverilog");
-    EXPECT_EQ(complaints_of_compiler(), "");
+};
+
+TEST_P(GoldenAppending, ToWhatIsThere)
+{
+    bool const verilog = GetParam().ending == ".v";
+    std::ofstream("both" + GetParam().ending)
+        << (verilog ? "module other;\nendmodule\n" : "entity other is\nend other;\n");
+    EXPECT_TRUE(
+        leaves_golden(*two_levels("LBX_FILE=both" + GetParam().ending + ":a:top", {1, 1, 2}), "appended", GetParam()));
+    SKIP_WITHOUT_COMPILER();
+    EXPECT_EQ(complaints_of_compiler(GetParam()), "");
 }
 
-TEST_F(GoldenHierarchies, EqualSumsOfCharactersDoNotCollideInOneFile)
-{
-    EXPECT_GOLDEN_THAT_COMPILES(*equal_sums("LBX_FILE=top.v"), "equal_sums.v");
-}
-
-TEST_F(GoldenHierarchies, EqualSumsOfCharactersDoNotCollideInFilesOfTheirOwn)
-{
-    EXPECT_GOLDEN_THAT_COMPILES(*equal_sums("LBX_FILE=top.v,LBX_SINGLE_OUTPUT_FILE=OFF"), "equal_sums_own_files.v");
-}
+// A QHDL run appends a header and no design.
+INSTANTIATE_TEST_SUITE_P(In, GoldenAppending, ::testing::Values(file_languages[0], file_languages[1]),
+                         [](auto const & of) { return std::string(of.param.name); });
 
 /// A name is avoided whatever the language of the file in the second folder.
-TEST_F(GoldenHierarchies, NamesOfASecondFolderAreAvoided)
+TEST_P(GoldenRuns, NamesOfASecondFolderAreAvoided)
 {
     fs::create_directory("out");
     fs::create_directory("taken");
     std::ofstream("taken/mgpa4.tdf") << "-- the first stage would have this name\n";
     std::ofstream("taken/mgqa4.vhd") << "-- the second one, or the first with the next number\n";
-    EXPECT_GOLDEN_THAT_COMPILES(
-        *two_levels("LBX_FILE=top.v,LBX_SINGLE_OUTPUT_FILE=OFF,LBX_OUTPUT_DIRECTORY=out;taken", {1, 2}),
-        "second_folder.v");
-}
-
-TEST_F(GoldenHierarchies, FixedPrefixInOneFile)
-{
-    EXPECT_GOLDEN_THAT_COMPILES(
-        *two_levels("LBX_FILE=top.v,LBX_MODULE_PREFIX=pre,LBXI_INSTANCE_NAME=inst", {1, 2, 1, 3}), "fixed_prefix.v");
-}
-
-TEST_F(GoldenHierarchies, FixedPrefixInFilesOfTheirOwn)
-{
-    EXPECT_GOLDEN_THAT_COMPILES(*two_levels("LBX_FILE=top.v,LBX_SINGLE_OUTPUT_FILE=OFF,LBX_MODULE_PREFIX=pre,"
-                                            "LBXI_INSTANCE_NAME=inst",
-                                            {1, 2, 1, 3}),
-                                "fixed_prefix_own_files.v");
+    auto const top = two_levels(into_top(",LBX_SINGLE_OUTPUT_FILE=OFF,LBX_OUTPUT_DIRECTORY=out;taken"), {1, 2});
+    EXPECT_TRUE(leaves_golden(*top, "second_folder", GetParam()));
+    fs::remove_all("taken");
+    SKIP_WITHOUT_COMPILER();
+    EXPECT_EQ(complaints_of_compiler(GetParam()), "");
 }
 
 /// It stands as a box of its own name; its model comes from elsewhere.
-TEST_F(GoldenHierarchies, AChildThatIsNotSupported)
+TEST_P(GoldenRuns, AChildThatIsNotSupported)
 {
-    auto const top = made_top("LBX_FILE=top.v,LBX_SINGLE_OUTPUT_FILE=OFF");
+    auto const top = made_top(into_top(",LBX_SINGLE_OUTPUT_FILE=OFF"));
     top->body = [](design & of) {
         auto & made = *new box(&of, "box");
         made.set_instance_name("u1");
@@ -194,29 +116,47 @@ TEST_F(GoldenHierarchies, AChildThatIsNotSupported)
         last.port("d") = out;
         of.port("q") = last.port("q");
     };
-    EXPECT_TRUE(leaves_golden(*top, "not_supported.v"));
+    EXPECT_TRUE(leaves_golden(*top, "not_supported", GetParam()));
     EXPECT_EQ(top->generator_result(), 3);
-    SKIP_WITHOUT("iverilog");
-    std::ofstream("box.v") << "module box(d, q);\n"
-                              "\tparameter depth = 1;\n"
-                              "\tparameter lpm_type = \"box\";\n"
-                              "\tinput [3:0] d;\n"
-                              "\toutput [3:0] q;\n"
-                              "\tassign q = d;\n"
-                              "endmodule\n";
-    EXPECT_EQ(complaints_of_compiler(), "");
+    SKIP_WITHOUT_COMPILER();
+    outside_cell const cell{"module box(d, q);\n"
+                            "\tparameter depth = 1, DEPTH = 1;\n" // names of parameters keep their case in QHDL
+                            "\tparameter lpm_type = \"box\";\n"
+                            "\tinput [3:0] d;\n"
+                            "\toutput [3:0] q;\n"
+                            "\tassign q = d;\n"
+                            "endmodule\n",
+                            "library ieee;\n"
+                            "use ieee.std_logic_1164.all;\n"
+                            "entity box is\n"
+                            "  generic (depth : natural := 1; lpm_hint : string := \"UNUSED\";\n"
+                            "           lpm_type : string := \"box\");\n"
+                            "  port (d : in std_logic_vector(3 downto 0); q : out std_logic_vector(3 downto 0));\n"
+                            "end box;\n"
+                            "architecture model of box is\nbegin\n  q <= d;\nend model;\n",
+                            "FUNCTION box (d[3..0]) WITH (DEPTH) RETURNS (q[3..0]);"};
+    EXPECT_EQ(complaints_of_compiler(GetParam(), cell), "");
 }
 
-TEST_F(GoldenHierarchies, AChildWithoutARequiredPort)
+TEST_P(GoldenRuns, AChildWithoutARequiredPort)
 {
-    auto const top = made_top("LBX_FILE=top.v");
+    auto const top = made_top(into_top());
     top->body = [](design & of) {
         auto & last = stage(of, "u1", 4, 1);
         of.port("q") = last.port("q");
     };
-    EXPECT_TRUE(leaves_golden(*top, "required_port.v"));
+    EXPECT_TRUE(leaves_golden(*top, "required_port", GetParam()));
     EXPECT_EQ(top->generator_result(), 1);
-    SKIP_WITHOUT("iverilog");
-    std::ofstream("missing.v") << "module top_mgg61(q);\n\toutput [3:0] q;\nendmodule\n"; // it got no text
-    EXPECT_EQ(complaints_of_compiler(), "");
+    SKIP_WITHOUT_COMPILER();
+    outside_cell const missing{"module top_mgg61(q);\n\toutput [3:0] q;\nendmodule\n", // it got no text
+                               "library ieee;\n"
+                               "use ieee.std_logic_1164.all;\n"
+                               "entity top_mgg61 is\n"
+                               "  port (q : out std_logic_vector(3 downto 0));\n"
+                               "end top_mgg61;\n"
+                               "architecture model of top_mgg61 is\nbegin\nend model;\n",
+                               "FUNCTION mgg61 () RETURNS (q[3..0]);"};
+    expect_error_in_text(complaints_of_compiler(GetParam(), missing), "is a required port");
 }
+
+IN_EACH_LANGUAGE(GoldenRuns);
