@@ -428,6 +428,48 @@ TEST_F(VhdlTwoDimensions, AConnectedInputOfACellHasASecondSignal)
                                 "\t SIGNAL  wire_u_held_2d\t:\tSTD_LOGIC_2D(2 DOWNTO 0, 3 DOWNTO 0);\n");
 }
 
+TEST_F(VhdlTwoDimensions, ASliceThatIsConnectedByItselfHasItsOwn)
+{
+    top_design top;
+    auto & x = used_input(top, "x", 6);
+    auto & arr = top.cell("arr", 2);
+    auto const declare = [](design & of) {
+        of.set_primitive();
+        new GNL_PORT_INPUT(&of, "a", 3, 2);
+    };
+    declare(arr);
+    arr.declare_slice = declare;
+    top.connect([&] {
+        arr[0].port("a") = x;
+        arr[1].port("a") = 5;
+    });
+    auto const declared = declarations_of(top);
+    EXPECT_EQ(declared.substr(0, declared.find("\t COMPONENT  ")),
+              "\t type STD_LOGIC_2D is array (NATURAL RANGE <>, NATURAL RANGE <>) of STD_LOGIC;\n"
+              "\t SIGNAL  wire_arr_0a_2d\t:\tSTD_LOGIC_2D(2 DOWNTO 0, 1 DOWNTO 0);\n"
+              "\t SIGNAL  wire_arr_1a_2d\t:\tSTD_LOGIC_2D(2 DOWNTO 0, 1 DOWNTO 0);\n"
+              "\t SIGNAL  wire_arr_1a\t:\tSTD_LOGIC_VECTOR (5 DOWNTO 0);\n");
+    EXPECT_EQ(statements_of(top), "\tloop0 : FOR i IN 0 TO 2 GENERATE\n"
+                                  "\t\tloop1 : FOR j IN 0 TO 1 GENERATE\n"
+                                  "\t\t\twire_arr_0a_2d(i, j) <= x(i*2+j);\n"
+                                  "\t\tEND GENERATE loop1;\n"
+                                  "\tEND GENERATE loop0;\n"
+                                  "\twire_arr_1a <= \"000101\";\n"
+                                  "\tloop2 : FOR i IN 0 TO 2 GENERATE\n"
+                                  "\t\tloop3 : FOR j IN 0 TO 1 GENERATE\n"
+                                  "\t\t\twire_arr_1a_2d(i, j) <= wire_arr_1a(i*2+j);\n"
+                                  "\t\tEND GENERATE loop3;\n"
+                                  "\tEND GENERATE loop2;\n"
+                                  "\tarr_0 :  blk\n"
+                                  "\t  PORT MAP ( \n"
+                                  "\t\ta => wire_arr_0a_2d\n"
+                                  "\t  );\n"
+                                  "\tarr_1 :  blk\n"
+                                  "\t  PORT MAP ( \n"
+                                  "\t\ta => wire_arr_1a_2d\n"
+                                  "\t  );\n");
+}
+
 TEST_F(VhdlTwoDimensions, TheTypeCanComeFromALibrary)
 {
     top_design top;

@@ -2,6 +2,7 @@
 
 #include "lbx/gnl/core/element_registry.h"
 #include "lbx/gnl/core/one_slice_widths.h"
+#include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/port_kinds.h"
 #include "lbx/gnl/writers/vhdl_components.h"
 #include "lbx/gnl/writers/vhdl_signals.h"
@@ -50,10 +51,21 @@ void declare_own_signal(text_sink & text, GNL_GENERATOR const & design, GNL_PORT
         port.dump_qelvar_internal_options(text.stream());
 }
 
-bool has_2d_signals(GNL_GENERATOR & subdesign)
+bool has_2d_ports(GNL_GENERATOR & subdesign)
 {
     for (GNL_PORT & port : subdesign.registry().ports())
         if (has_2d_signal(port))
+            return true;
+    return false;
+}
+/// Of the subdesign itself, or of a slice that is connected by itself.
+bool has_2d_signals(GNL_GENERATOR & subdesign)
+{
+    if (has_2d_ports(subdesign))
+        return true;
+    array_slices const slices(subdesign);
+    for (int i = 0; i < subdesign.get_array_width(); ++i)
+        if (auto * slice = slices.at(i); slice != nullptr && has_2d_ports(*slice))
             return true;
     return false;
 }

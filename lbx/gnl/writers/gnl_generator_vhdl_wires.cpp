@@ -104,13 +104,20 @@ private:
         else if (is_left_to_slices(port))
             for (auto * of_slice : m_slices.ports(port.get_name()))
                 if (of_slice->check_is_used_flag())
-                    declare_signal(*of_slice);
+                    declare_of_slice(*of_slice);
     }
     void declare_whole(GNL_PORT & port)
     {
         declare_signal(port);
         if (is_constant_input(port))
             declare_constant(m_text, port, m_signals);
+        if (has_2d_signal(port))
+            declare_2d_signal(m_text, port);
+    }
+    /// Its constants are declared behind the signals of the whole array.
+    void declare_of_slice(GNL_PORT & port)
+    {
+        declare_signal(port);
         if (has_2d_signal(port))
             declare_2d_signal(m_text, port);
     }
