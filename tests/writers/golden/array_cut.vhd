@@ -1,0 +1,146 @@
+--==== top.vhd ====
+--top bit pair six
+--
+
+
+-- (legal notice)
+
+
+
+
+--stage HELD=1 d en q
+--
+
+--synthesis_resources = 
+ LIBRARY ieee;
+ USE ieee.std_logic_1164.all;
+
+ ENTITY  top_mg7i1 IS 
+	 PORT 
+	 ( 
+		 d	:	IN  STD_LOGIC_VECTOR (1 DOWNTO 0);
+		 en	:	IN  STD_LOGIC := '1';
+		 q	:	OUT  STD_LOGIC_VECTOR (1 DOWNTO 0)
+	 ); 
+ END top_mg7i1;
+
+ ARCHITECTURE RTL OF top_mg7i1 IS
+
+	 ATTRIBUTE synthesis_lumenbox : natural;
+	 ATTRIBUTE synthesis_lumenbox OF RTL : ARCHITECTURE IS 1;
+	 SIGNAL  wire_st_w_lg_d12w	:	STD_LOGIC_VECTOR (1 DOWNTO 0);
+	 SIGNAL  wire_st_w_lg_w_lg_d12w13w	:	STD_LOGIC_VECTOR (1 DOWNTO 0);
+	 SIGNAL  keep :	STD_LOGIC_VECTOR (1 DOWNTO 0);
+ BEGIN
+
+	loop0 : FOR i IN 0 TO 1 GENERATE 
+		wire_st_w_lg_d12w(i) <= d(i) AND keep(i);
+	END GENERATE loop0;
+	loop1 : FOR i IN 0 TO 1 GENERATE 
+		wire_st_w_lg_w_lg_d12w13w(i) <= wire_st_w_lg_d12w(i) XOR en;
+	END GENERATE loop1;
+	keep <= "10";
+	q <= wire_st_w_lg_w_lg_d12w13w;
+
+ END RTL; --top_mg7i1
+
+
+--stage HELD=1 d q
+--
+
+--synthesis_resources = 
+ LIBRARY ieee;
+ USE ieee.std_logic_1164.all;
+
+ ENTITY  top_mgka1 IS 
+	 PORT 
+	 ( 
+		 d	:	IN  STD_LOGIC_VECTOR (1 DOWNTO 0);
+		 q	:	OUT  STD_LOGIC_VECTOR (1 DOWNTO 0)
+	 ); 
+ END top_mgka1;
+
+ ARCHITECTURE RTL OF top_mgka1 IS
+
+	 ATTRIBUTE synthesis_lumenbox : natural;
+	 ATTRIBUTE synthesis_lumenbox OF RTL : ARCHITECTURE IS 1;
+	 SIGNAL  wire_sv_w_lg_d14w	:	STD_LOGIC_VECTOR (1 DOWNTO 0);
+	 SIGNAL  wire_sv_w_lg_w_lg_d14w15w	:	STD_LOGIC_VECTOR (1 DOWNTO 0);
+	 SIGNAL  en	:	STD_LOGIC;
+	 SIGNAL  keep :	STD_LOGIC_VECTOR (1 DOWNTO 0);
+ BEGIN
+
+	loop2 : FOR i IN 0 TO 1 GENERATE 
+		wire_sv_w_lg_d14w(i) <= d(i) AND keep(i);
+	END GENERATE loop2;
+	loop3 : FOR i IN 0 TO 1 GENERATE 
+		wire_sv_w_lg_w_lg_d14w15w(i) <= wire_sv_w_lg_d14w(i) XOR en;
+	END GENERATE loop3;
+	en <= '1';
+	keep <= "10";
+	q <= wire_sv_w_lg_w_lg_d14w15w;
+
+ END RTL; --top_mgka1
+
+--synthesis_resources = 
+ LIBRARY ieee;
+ USE ieee.std_logic_1164.all;
+
+ ENTITY  top IS 
+	 PORT 
+	 ( 
+		 bit	:	IN  STD_LOGIC;
+		 pair	:	IN  STD_LOGIC_VECTOR (1 DOWNTO 0);
+		 q	:	OUT  STD_LOGIC_VECTOR (5 DOWNTO 0);
+		 six	:	IN  STD_LOGIC_VECTOR (5 DOWNTO 0)
+	 ); 
+ END top;
+
+ ARCHITECTURE RTL OF top IS
+
+	 ATTRIBUTE synthesis_lumenbox : natural;
+	 ATTRIBUTE synthesis_lumenbox OF RTL : ARCHITECTURE IS 1;
+	 SIGNAL  wire_st_d	:	STD_LOGIC_VECTOR (5 DOWNTO 0);
+	 SIGNAL  wire_st_en	:	STD_LOGIC_VECTOR (2 DOWNTO 0);
+	 SIGNAL  wire_st_q	:	STD_LOGIC_VECTOR (5 DOWNTO 0);
+	 SIGNAL  wire_sv_d	:	STD_LOGIC_VECTOR (5 DOWNTO 0);
+	 SIGNAL  wire_sv_q	:	STD_LOGIC_VECTOR (5 DOWNTO 0);
+	 SIGNAL  wire_w_pair_bit7w	:	STD_LOGIC_VECTOR (2 DOWNTO 0);
+	 COMPONENT  top_mg7i1
+	 PORT
+	 ( 
+		d	:	IN  STD_LOGIC_VECTOR(1 DOWNTO 0);
+		en	:	IN  STD_LOGIC := '1';
+		q	:	OUT  STD_LOGIC_VECTOR(1 DOWNTO 0)
+	 ); 	 END COMPONENT;
+	 COMPONENT  top_mgka1
+	 PORT
+	 ( 
+		d	:	IN  STD_LOGIC_VECTOR(1 DOWNTO 0);
+		q	:	OUT  STD_LOGIC_VECTOR(1 DOWNTO 0)
+	 ); 	 END COMPONENT;
+ BEGIN
+
+	q <= wire_sv_q;
+	wire_w_pair_bit7w <= ( pair & bit);
+	wire_st_d <= ( ( pair & bit) & six(5 DOWNTO 3));
+	wire_st_en <= ( pair & bit);
+	loop4 : FOR i IN 0 TO 2 GENERATE 
+	  st :  top_mg7i1
+	  PORT MAP ( 
+		d => wire_st_d(i*2+1 DOWNTO i*2),
+		en => wire_st_en(i),
+		q => wire_st_q(i*2+1 DOWNTO i*2)
+	  );
+	END GENERATE loop4;
+	wire_sv_d <= ( wire_st_q(3 DOWNTO 0) & bit & bit);
+	loop5 : FOR i IN 0 TO 2 GENERATE 
+	  sv :  top_mgka1
+	  PORT MAP ( 
+		d => wire_sv_d(i*2+1 DOWNTO i*2),
+		q => wire_sv_q(i*2+1 DOWNTO i*2)
+	  );
+	END GENERATE loop5;
+
+ END RTL; --top
+--VALID FILE

@@ -1,0 +1,212 @@
+--==== top.vhd ====
+--top LBX_SINGLE_OUTPUT_FILE="OFF" d
+--
+--LBXI_INSTANCE_NAME="inst"
+
+
+-- (legal notice)
+
+
+
+--synthesis_resources = 
+ LIBRARY ieee;
+ USE ieee.std_logic_1164.all;
+
+ ENTITY  top IS 
+	 PORT 
+	 ( 
+		 d	:	IN  STD_LOGIC_VECTOR (3 DOWNTO 0);
+		 q	:	OUT  STD_LOGIC_VECTOR (3 DOWNTO 0)
+	 ); 
+ END top;
+
+ ARCHITECTURE RTL OF top IS
+
+	 ATTRIBUTE synthesis_lumenbox : natural;
+	 ATTRIBUTE synthesis_lumenbox OF RTL : ARCHITECTURE IS 1;
+	 SIGNAL  wire_vcc	:	STD_LOGIC;
+	 SIGNAL  wire_s1_q	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  wire_s2_q	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  wire_s3_q	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  wire_s4_q	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 COMPONENT  top_pre_mg
+	 PORT
+	 ( 
+		d	:	IN  STD_LOGIC_VECTOR(3 DOWNTO 0);
+		en	:	IN  STD_LOGIC := '1';
+		q	:	OUT  STD_LOGIC_VECTOR(3 DOWNTO 0)
+	 ); 	 END COMPONENT;
+	 COMPONENT  top_pre_mg1
+	 PORT
+	 ( 
+		d	:	IN  STD_LOGIC_VECTOR(3 DOWNTO 0);
+		en	:	IN  STD_LOGIC := '1';
+		q	:	OUT  STD_LOGIC_VECTOR(3 DOWNTO 0)
+	 ); 	 END COMPONENT;
+	 COMPONENT  top_pre_mg2
+	 PORT
+	 ( 
+		d	:	IN  STD_LOGIC_VECTOR(3 DOWNTO 0);
+		en	:	IN  STD_LOGIC := '1';
+		q	:	OUT  STD_LOGIC_VECTOR(3 DOWNTO 0)
+	 ); 	 END COMPONENT;
+ BEGIN
+
+	wire_vcc <= '1';
+	q <= wire_s4_q;
+	s1 :  top_pre_mg
+	  PORT MAP ( 
+		d => d,
+		en => wire_vcc,
+		q => wire_s1_q
+	  );
+	s2 :  top_pre_mg1
+	  PORT MAP ( 
+		d => wire_s1_q,
+		en => wire_vcc,
+		q => wire_s2_q
+	  );
+	s3 :  top_pre_mg
+	  PORT MAP ( 
+		d => wire_s2_q,
+		en => wire_vcc,
+		q => wire_s3_q
+	  );
+	s4 :  top_pre_mg2
+	  PORT MAP ( 
+		d => wire_s3_q,
+		en => wire_vcc,
+		q => wire_s4_q
+	  );
+
+ END RTL; --top
+--VALID FILE
+--==== top_pre_mg.vhd ====
+--stage HELD=1 LBX_SINGLE_OUTPUT_FILE="OFF" d en q
+--
+--LBXI_INSTANCE_NAME="inst"
+
+
+-- (legal notice)
+
+
+
+--synthesis_resources = 
+ LIBRARY ieee;
+ USE ieee.std_logic_1164.all;
+
+ ENTITY  top_pre_mg IS 
+	 PORT 
+	 ( 
+		 d	:	IN  STD_LOGIC_VECTOR (3 DOWNTO 0);
+		 en	:	IN  STD_LOGIC := '1';
+		 q	:	OUT  STD_LOGIC_VECTOR (3 DOWNTO 0)
+	 ); 
+ END top_pre_mg;
+
+ ARCHITECTURE RTL OF top_pre_mg IS
+
+	 ATTRIBUTE synthesis_lumenbox : natural;
+	 ATTRIBUTE synthesis_lumenbox OF RTL : ARCHITECTURE IS 1;
+	 SIGNAL  wire_s3_w_lg_d5w	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  wire_s3_w_lg_w_lg_d5w6w	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  keep :	STD_LOGIC_VECTOR (3 DOWNTO 0);
+ BEGIN
+
+	loop4 : FOR i IN 0 TO 3 GENERATE 
+		wire_s3_w_lg_d5w(i) <= d(i) AND keep(i);
+	END GENERATE loop4;
+	loop5 : FOR i IN 0 TO 3 GENERATE 
+		wire_s3_w_lg_w_lg_d5w6w(i) <= wire_s3_w_lg_d5w(i) XOR en;
+	END GENERATE loop5;
+	keep <= "1110";
+	q <= wire_s3_w_lg_w_lg_d5w6w;
+
+ END RTL; --top_pre_mg
+--VALID FILE
+--==== top_pre_mg1.vhd ====
+--stage HELD=2 LBX_SINGLE_OUTPUT_FILE="OFF" d en q
+--
+--LBXI_INSTANCE_NAME="inst"
+
+
+-- (legal notice)
+
+
+
+--synthesis_resources = 
+ LIBRARY ieee;
+ USE ieee.std_logic_1164.all;
+
+ ENTITY  top_pre_mg1 IS 
+	 PORT 
+	 ( 
+		 d	:	IN  STD_LOGIC_VECTOR (3 DOWNTO 0);
+		 en	:	IN  STD_LOGIC := '1';
+		 q	:	OUT  STD_LOGIC_VECTOR (3 DOWNTO 0)
+	 ); 
+ END top_pre_mg1;
+
+ ARCHITECTURE RTL OF top_pre_mg1 IS
+
+	 ATTRIBUTE synthesis_lumenbox : natural;
+	 ATTRIBUTE synthesis_lumenbox OF RTL : ARCHITECTURE IS 1;
+	 SIGNAL  wire_s2_w_lg_d3w	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  wire_s2_w_lg_w_lg_d3w4w	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  keep :	STD_LOGIC_VECTOR (3 DOWNTO 0);
+ BEGIN
+
+	loop2 : FOR i IN 0 TO 3 GENERATE 
+		wire_s2_w_lg_d3w(i) <= d(i) AND keep(i);
+	END GENERATE loop2;
+	loop3 : FOR i IN 0 TO 3 GENERATE 
+		wire_s2_w_lg_w_lg_d3w4w(i) <= wire_s2_w_lg_d3w(i) XOR en;
+	END GENERATE loop3;
+	keep <= "1101";
+	q <= wire_s2_w_lg_w_lg_d3w4w;
+
+ END RTL; --top_pre_mg1
+--VALID FILE
+--==== top_pre_mg2.vhd ====
+--stage HELD=3 LBX_SINGLE_OUTPUT_FILE="OFF" d en q
+--
+--LBXI_INSTANCE_NAME="inst"
+
+
+-- (legal notice)
+
+
+
+--synthesis_resources = 
+ LIBRARY ieee;
+ USE ieee.std_logic_1164.all;
+
+ ENTITY  top_pre_mg2 IS 
+	 PORT 
+	 ( 
+		 d	:	IN  STD_LOGIC_VECTOR (3 DOWNTO 0);
+		 en	:	IN  STD_LOGIC := '1';
+		 q	:	OUT  STD_LOGIC_VECTOR (3 DOWNTO 0)
+	 ); 
+ END top_pre_mg2;
+
+ ARCHITECTURE RTL OF top_pre_mg2 IS
+
+	 ATTRIBUTE synthesis_lumenbox : natural;
+	 ATTRIBUTE synthesis_lumenbox OF RTL : ARCHITECTURE IS 1;
+	 SIGNAL  wire_s4_w_lg_d7w	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  wire_s4_w_lg_w_lg_d7w8w	:	STD_LOGIC_VECTOR (3 DOWNTO 0);
+	 SIGNAL  keep :	STD_LOGIC_VECTOR (3 DOWNTO 0);
+ BEGIN
+
+	loop6 : FOR i IN 0 TO 3 GENERATE 
+		wire_s4_w_lg_d7w(i) <= d(i) AND keep(i);
+	END GENERATE loop6;
+	loop7 : FOR i IN 0 TO 3 GENERATE 
+		wire_s4_w_lg_w_lg_d7w8w(i) <= wire_s4_w_lg_d7w(i) XOR en;
+	END GENERATE loop7;
+	keep <= "1100";
+	q <= wire_s4_w_lg_w_lg_d7w8w;
+
+ END RTL; --top_pre_mg2
+--VALID FILE
