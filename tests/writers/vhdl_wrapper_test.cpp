@@ -130,3 +130,42 @@ TEST_F(VhdlWrapper, IsWrittenForACellWhereWrappersAreOn)
               std::string::npos)
         << text;
 }
+
+/// Settings with one sum of characters lead to one name, also where designs have files of their own: wrappers stand in
+/// the file of the design above.
+TEST_F(VhdlWrapper, IsSharedByEqualCellsAlone)
+{
+    for (std::string const one_file : {"ON", "OFF"}) {
+        top_design top(("LBX_FILE=top.vhd,LBX_VHDL_WRAPPERS=ON,LBX_SINGLE_OUTPUT_FILE=" + one_file).c_str());
+        auto & x = top.input("x", 4);
+        auto & y = top.output("y", 4);
+        std::vector<std::string> names;
+        top.body = [&](design & of) {
+            GNL_PORT * previous = &x;
+            for (int const width : {12, 21, 12}) {
+                auto & cell = *new plain_cell(&of, "u" + std::string(names.size(), 'u'));
+                names.emplace_back();
+                cell.WIDTH = width;
+                cell.in = *previous;
+                previous = &cell.q;
+            }
+            y = *previous;
+        };
+        top.run();
+        EXPECT_EQ(top.messages(), texts{});
+        auto const text = file_text("top.vhd");
+        std::map<std::string, int> entities;
+        for (auto at = text.find(" ENTITY  "); at != std::string::npos; at = text.find(" ENTITY  ", at + 1))
+            ++entities[text.substr(at + 9, text.find(' ', at + 9) - at - 9)];
+        std::vector<std::string> instances;
+        for (std::string const instance : {"\tu :  ", "\tuu :  ", "\tuuu :  "}) {
+            auto const at = text.find(instance) + instance.size();
+            instances.push_back(text.substr(at, text.find('\n', at) - at));
+        }
+        EXPECT_EQ(entities.size(), 3U) << text;
+        for (auto const & [entity, count] : entities)
+            EXPECT_EQ(count, 1) << entity;
+        EXPECT_NE(instances[0], instances[1]);
+        EXPECT_EQ(instances[0], instances[2]);
+    }
+}

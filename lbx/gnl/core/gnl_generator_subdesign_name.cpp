@@ -73,6 +73,13 @@ private:
     {
         return m_generator.get_parent() && equal_folded(name, m_top.get_entity_name());
     }
+    /// A cell's wrapper has no file: it stands in the text of the design above. The list tells of those of this run.
+    bool is_wrapper() const { return m_generator.is_primitive() && m_generator.get_parent() != nullptr; }
+    bool is_listed_wrapper(std::string const & name) const
+    {
+        return is_wrapper() && m_top.m_state.list_of_subdesigns.contains(name);
+    }
+    void take_in_folder(std::string const & name, std::string const & path);
     int compare_with_file(std::string const & path);
     void note_other_file(seed_space & space, std::string const & path) const;
     /// Moves on to the next seed that has a chance. Numbers behind a fixed name are tried one by one.
@@ -172,8 +179,15 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_folder()
     auto & space = m_top.subdesign_names().space(folder + m_stem, ending);
     for (;; ++m_seed) {
         skip_taken(space);
-        auto const path = std::string(folder).append(name(m_seed)).append(ending);
-        if (is_name_of_top(name(m_seed)) || m_top.subdesign_names().is_begun(path))
+        auto const found = name(m_seed);
+        auto const path = folder + found + ending;
+        if (is_listed_wrapper(found)) {
+            if (m_top.check_list_of_subdesigns(found, m_header) != 0)
+                continue;
+            m_generator.dont_generate_file();
+            return found;
+        }
+        if (is_name_of_top(found) || m_top.subdesign_names().is_begun(path))
             continue;
         // An instance may overwrite its file of an earlier run, but not that of another design of this run.
         if (m_fixed && m_top.subdesign_names().is_used_by_other(path, m_settings))
@@ -185,9 +199,18 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_folder()
         }
         if (result == 1 && !m_generator.forced_file_generation())
             m_generator.dont_generate_file();
-        if (m_generator.get_parent())
-            m_top.subdesign_names().use_file(path, m_settings);
-        return name(m_seed);
+        take_in_folder(found, path);
+        return found;
+    }
+}
+
+void GNL_GENERATOR::subdesign_naming::take_in_folder(std::string const & name, std::string const & path)
+{
+    if (is_wrapper()) {
+        m_top.check_list_of_subdesigns(name, m_header);
+        m_top.subdesign_names().file_begun(path); // no design gets the name either
+    } else if (m_generator.get_parent()) {
+        m_top.subdesign_names().use_file(path, m_settings);
     }
 }
 
