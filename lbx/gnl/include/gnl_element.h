@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -45,9 +46,9 @@ public:
 private:
     static std::uintptr_t word_of(std::string const & text)
     {
-        return reinterpret_cast<std::uintptr_t>(std::make_unique<std::string>(text).release());
+        return std::bit_cast<std::uintptr_t>(std::make_unique<std::string>(text).release());
     }
-    std::string * owned() const { return reinterpret_cast<std::string *>(m_word); }
+    std::string * owned() const { return std::bit_cast<std::string *>(m_word); }
     void drop()
     {
         if (is_made())
