@@ -9,6 +9,7 @@
 #include "lbx/gnl/core/element_registry.h"
 
 #include <algorithm>
+#include <cassert>
 #include <vector>
 
 using gnl_detail::folded;
@@ -107,6 +108,7 @@ std::string const & GNL_ELEMENT::late_name() const
         if (!next.m_name.is_made())
             next.m_name.set(next.has_late_name() ? next.make_late_name(next.m_name.number()) : std::string());
     }
+    assert(m_name.is_made());
     return m_name.text();
 }
 
