@@ -179,8 +179,8 @@ std::string GNL_GENERATOR::subdesign_naming::find_in_folder()
     auto & space = m_top.subdesign_names().space(folder + m_stem, ending);
     for (;; ++m_seed) {
         skip_taken(space);
-        auto const found = name(m_seed);
-        auto const path = folder + found + ending;
+        auto found = name(m_seed);
+        auto const path = std::string(folder).append(found).append(ending);
         if (is_listed_wrapper(found)) {
             if (m_top.check_list_of_subdesigns(found, m_header) != 0)
                 continue;
