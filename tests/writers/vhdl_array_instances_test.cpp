@@ -485,6 +485,9 @@ TEST_F(VhdlUnrolledArrays, SlicesOfTheirOwnKindHaveTheirOwnEntityAndValues)
                                   "\t\ta => s,\n"
                                   "\t\tq => wire_arr_q(1)\n"
                                   "\t  );\n");
+    // Where cells stand for themselves, their slices are never generated.
+    cells[1].set_entity_name("");
+    EXPECT_NE(statements_of(top).find("\tarr_1 :  blk\n"), std::string::npos);
     cells[1].set_entity_name("other");
     auto const text = statements_of(top);
     EXPECT_NE(text.find("\tarr_0 :  blk\n"), std::string::npos) << text;

@@ -220,8 +220,10 @@ private:
         auto * slice = m_slices.at(index);
         bool const differs = slice != nullptr && slice->is_heterogeneous_element();
         instance_statement statement(m_level, m_text, m_signals);
+        // A slice of a cell that is instantiated by its own name was never generated and has no entity.
+        auto const own_entity = differs ? slice->get_entity_name() : std::string();
         statement.open("\t", m_subdesign.get_instance_name(), index,
-                       differs ? slice->get_entity_name() : m_subdesign.get_entity_name());
+                       own_entity.empty() ? m_subdesign.get_entity_name() : own_entity);
         write_body(statement, differs ? *slice : m_subdesign, {m_subdesign.get_array_width(), index},
                    differs && !m_subdesign.is_primitive());
     }
