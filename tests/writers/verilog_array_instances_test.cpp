@@ -473,14 +473,46 @@ TEST_F(VerilogWireConnections, DriveTheNetsOfBidirectionalPorts)
     whole.lock_bidir_port(1);
     held.lock_bidir_port(1);
     static_cast<GNL_PORT_BIDIR &>(arr[1].port("io")).lock_bidir_port(1);
-    EXPECT_EQ(wire_connections(arr), "\tassign\n"
-                                     "\t\twire_arr_held = 4'b0101,\n"
-                                     "\t\twire_arr_whole = {2{bit}};\n");
+    std::string const expected = "\tassign\n"
+                                 "\t\twire_arr_held = 4'b0101,\n"
+                                 "\t\twire_arr_1io = bit,\n"
+                                 "\t\twire_arr_whole = {2{bit}};\n";
+    EXPECT_EQ(wire_connections(arr), expected);
     arr.set_use_custom_verilog_output();
-    EXPECT_EQ(wire_connections(arr), "\tassign\n"
-                                     "\t\twire_arr_held = 4'b0101,\n"
-                                     "\t\twire_arr_1io = bit,\n"
-                                     "\t\twire_arr_whole = {2{bit}};\n");
+    EXPECT_EQ(wire_connections(arr), expected);
+}
+
+TEST_F(VerilogWireConnections, ConstantsHoldBidirectionalPortsThatNobodyReads)
+{
+    top_design top;
+    auto & arr = top.subdesign("leaf", "arr", 2);
+    auto & held = arr.bidir("held", 2);
+    arr.bidir("io");
+    arr.bidir("loose", 2).set_used();
+    arr.declare_slice = [](design & slice) {
+        slice.bidir("held", 2);
+        slice.bidir("io");
+        slice.bidir("loose", 2);
+    };
+    top.connect([&] {
+        held = 5;
+        arr[1].port("io") = 1;
+    });
+    EXPECT_EQ(wires_of(arr), "\twire  [3:0]   wire_arr_held;\n"
+                             "\twire [0:0]   wire_arr_1io;\n"
+                             "\twire  [3:0]   wire_arr_loose;\n");
+    EXPECT_EQ(instance_of(arr), "\tleaf   arr_0\n"
+                                "\t( \n"
+                                "\t.held(wire_arr_held[1:0]),\n"
+                                "\t.loose(wire_arr_loose[1:0]));\n"
+                                "\tleaf   arr_1\n"
+                                "\t( \n"
+                                "\t.held(wire_arr_held[3:2]),\n"
+                                "\t.io(wire_arr_1io[0:0]),\n"
+                                "\t.loose(wire_arr_loose[3:2]));\n"
+                                "\tassign\n"
+                                "\t\twire_arr_held = 4'b0101,\n"
+                                "\t\twire_arr_1io = 1'b1;\n");
 }
 
 TEST_F(VerilogWireConnections, StartWithTheGatesOfAStructuralNetlist)

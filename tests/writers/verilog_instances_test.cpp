@@ -195,6 +195,27 @@ TEST_F(VerilogInstance, AConstantDrivesTheNetOfABidirectionalPort)
                               "\t\twire_u_a = 4'b0101;\n");
 }
 
+TEST_F(VerilogInstance, AConstantIsNotLostWhereNobodyReadsTheBidirectionalPort)
+{
+    top_design top;
+    auto & u = top.subdesign("leaf", "u");
+    auto & a = u.bidir("a", 4);
+    auto & b = u.bidir("b");
+    top.connect([&] {
+        a = 5;
+        b = 1;
+    });
+    EXPECT_EQ(instance_of(u), "\tleaf   u\n"
+                              "\t( \n"
+                              "\t.a(wire_u_a),\n"
+                              "\t.b(wire_u_b));\n"
+                              "\tassign\n"
+                              "\t\twire_u_a = 4'b0101,\n"
+                              "\t\twire_u_b = 1'b1;\n");
+    EXPECT_EQ(wires_of(u), "\twire  [3:0]   wire_u_a;\n"
+                           "\twire  wire_u_b;\n");
+}
+
 TEST_F(VerilogInstance, WhatABidirectionalPortDoesInItsOwnDesignIsNotSeenAround)
 {
     top_design top;

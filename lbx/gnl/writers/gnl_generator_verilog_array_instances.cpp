@@ -250,7 +250,7 @@ private:
     }
     void assign_of_slices(GNL_PORT & port)
     {
-        if (!m_custom)
+        if (port.is_input() && !m_custom)
             return;
         for (auto * of_slice : m_slices.ports(port.get_name())) {
             if (!of_slice->is_input())

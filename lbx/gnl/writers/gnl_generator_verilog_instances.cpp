@@ -44,10 +44,16 @@ bool is_special_bidir(GNL_PORT_BIDIR & port, GNL_GENERATOR const & parent)
     return usage == 2 || (usage == 0 && driver_at(port, &parent) != nullptr);
 }
 
+bool has_bidir_net(GNL_PORT_BIDIR & port, GNL_GENERATOR const * parent)
+{
+    int const usage = port.is_locked_bidir_port();
+    return usage == 1 || (usage == 0 && has_constant_at(port, parent));
+}
+
 void assign_bidir_net(assign_sequence & assign, text_sink & text, GNL_GENERATOR & parent, GNL_PORT & port)
 {
-    auto const * bidir = as_bidir(port);
-    if (bidir == nullptr || bidir->is_locked_bidir_port() != 1)
+    auto * bidir = as_bidir(port);
+    if (bidir == nullptr || !has_bidir_net(*bidir, &parent))
         return;
     if (auto * driver = driver_at(port, &parent)) {
         if (!check_driver(parent, port, *driver))

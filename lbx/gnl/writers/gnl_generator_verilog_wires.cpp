@@ -3,6 +3,7 @@
 #include "lbx/gnl/core/element_registry.h"
 #include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/port_kinds.h"
+#include "lbx/gnl/writers/verilog_instance.h"
 #include "lbx/gnl/writers/verilog_text.h"
 
 // The nets of a design: its own wires and, where their generators stand, those that join its subdesigns to it. The
@@ -35,8 +36,9 @@ void declare_signal(text_sink & text, GNL_PORT & port)
 class subdesign_nets
 {
 public:
-    subdesign_nets(GNL_GENERATOR & subdesign, text_sink & text)
+    subdesign_nets(GNL_GENERATOR & subdesign, GNL_GENERATOR const * parent, text_sink & text)
         : m_subdesign(subdesign)
+        , m_parent(parent)
         , m_text(text)
         , m_slices(subdesign)
         , m_is_array(subdesign.get_array_width() > 0)
@@ -71,8 +73,14 @@ private:
     {
         if (auto const * output = as_output(port))
             declare_net(m_text, output->uses_verilog_reg() ? "\treg   " : "\twire  ", range, port) << ";\n";
-        else if (auto const * bidir = as_bidir(port); bidir != nullptr && bidir->is_locked_bidir_port() == 1)
+        else if (auto * bidir = as_bidir(port); bidir != nullptr && has_net(*bidir))
             declare_net(m_text, bidir_opener, range, port) << ";\n";
+    }
+    /// The instances of an array cut their bits out of the net, also where nobody connects it.
+    bool has_net(GNL_PORT_BIDIR & port) const
+    {
+        return has_bidir_net(port, m_parent)
+               || (m_is_array && port.is_locked_bidir_port() == 0 && driver_at(port, m_parent) == nullptr);
     }
     void declare_slice_result(GNL_PORT & port) const
     {
@@ -116,6 +124,7 @@ private:
     }
 
     GNL_GENERATOR & m_subdesign;
+    GNL_GENERATOR const * m_parent;
     text_sink & m_text;
     array_slices m_slices;
     bool m_is_array;
@@ -147,7 +156,7 @@ void GNL_GENERATOR::dump_verilog_wires(std::ostream & out, GNL_GENERATOR * paren
         text_sink text(out);
         if (structural)
             declare_expression_nets(text, *this, parent);
-        subdesign_nets const nets(*this, text);
+        subdesign_nets const nets(*this, parent, text);
         for (GNL_PORT & port : m_registry->ports())
             nets.declare(port);
     } else if (uses_custom_verilog_output()) {

@@ -50,7 +50,11 @@ private:
 /// Whether a subdesign's bidirectional port meets its driver, or the port that it drives, without a net of its own.
 bool is_special_bidir(GNL_PORT_BIDIR & port, GNL_GENERATOR const & parent);
 
-/// A bidirectional port that acts as an output is driven through its net, by an assignment beside the instance.
+/// Whether a subdesign's bidirectional port has a net of its own at this level: it acts as an output there, or is held
+/// by a constant.
+bool has_bidir_net(GNL_PORT_BIDIR & port, GNL_GENERATOR const * parent);
+
+/// Such a port is driven through its net, by an assignment beside the instance.
 void assign_bidir_net(assign_sequence & assign, text_sink & text, GNL_GENERATOR & parent, GNL_PORT & port);
 
 /// The instance statements of an array, one for each slice, and the assignments that feed them.
