@@ -50,6 +50,13 @@ TEST_F(RangeDescription, OfAScalarOutputOfASubdesign)
                           [](open_design & top) { return described(top.child("leaf", "u1").output("q")[0], top); });
 }
 
+TEST_F(RangeDescription, OfAnInputOfASubdesign)
+{
+    expect_language_texts({"wire_u1_d[3:1]", "wire_u1_d(3 DOWNTO 1)", "u1.d[3..1]"}, [](open_design & top) {
+        return described(top.child("leaf", "u1").input("d", 8).range(3, 1), top);
+    });
+}
+
 TEST_F(RangeDescription, OfABidirOfASubdesign)
 {
     expect_language_texts({"wire_u1_p[3:1]", "wire_u1_p(3 DOWNTO 1)", "u1.p[3..1]"}, [](open_design & top) {

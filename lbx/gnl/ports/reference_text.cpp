@@ -87,9 +87,9 @@ void write_vhdl_part(text_sink & text, int high, int low)
 
 port_signal signal_of(GNL_PORT & port, GNL_GENERATOR const * level)
 {
-    bool const outside = port.get_parent() != level && (port.is_output() || port.is_bidir());
+    bool const outside = port.get_parent() != level && port.is_simple_port();
     port_signal signal{port.get_source_name(outside), 0, port.get_width() > 0};
-    if (!outside)
+    if (!outside || port.is_input() || port.is_wire())
         return signal;
     port_place const place(port);
     if (place.among_slices() && place.connected_as_whole()) {
