@@ -2,6 +2,9 @@
 
 #include "support.h"
 
+#include <map>
+#include <sstream>
+
 namespace {
 
 using namespace gnl_test;
@@ -102,6 +105,65 @@ TEST_F(PortWidths, MultiplyWithTheArrayOnce)
     EXPECT_EQ(a.get_original_width(), 6);
     EXPECT_EQ(s.get_width(), 4);
     EXPECT_EQ(s.get_original_width(), 0);
+}
+
+/// A design whose ports have no width before its parameters are read, and that nothing connects.
+struct open_design : design
+{
+    explicit open_design(char const * text)
+        : design(nullptr, "top", text)
+        , y(this, "y", "WIDTH")
+    {
+        integer("WIDTH", 6);
+        y.set_used();
+    }
+    GNL_PORT_OUTPUT y;
+};
+
+TEST_F(PortWidths, AreSettledForADesignThatConnectsNothing)
+{
+    for (auto const & [file, line] : std::map<std::string, std::string>{
+             {"top.v", "\toutput   [5:0]  y;\n"}, {"top.vhd", " y\t:\tOUT  STD_LOGIC_VECTOR (5 DOWNTO 0)\n"}}) {
+        open_design top(("LBX_FILE=" + file).c_str());
+        top.run();
+        EXPECT_NE(file_text(file).find(line), std::string::npos) << file_text(file);
+    }
+}
+
+TEST_F(PortWidths, AreSettledForABodyThatIsGivenUpBeforeItConnects)
+{
+    for (auto const & [file, line] : std::map<std::string, std::string>{
+             {"top.v", "\toutput   [5:0]  y;\n"}, {"top.vhd", " y\t:\tOUT  STD_LOGIC_VECTOR (5 DOWNTO 0)\n"}}) {
+        open_design top(("LBX_FILE=" + file).c_str());
+        top.run([](design & self) {
+            self.post_error_msg("no");
+            self.exit_if_error();
+        });
+        EXPECT_NE(file_text(file).find(line), std::string::npos) << file_text(file);
+    }
+}
+
+TEST_F(PortWidths, AreSettledForAWrapper)
+{
+    struct wrapped : GNL_GENERATOR
+    {
+        explicit wrapped(char const * text)
+            : GNL_GENERATOR(nullptr, "blk", text)
+            , WIDTH(this, "WIDTH", 6)
+            , y(this, "y", "WIDTH")
+        {
+            y.set_used();
+        }
+        GNL_PARAMETER_INTEGER WIDTH;
+        GNL_PORT_OUTPUT y;
+    };
+    for (auto const & [file, line] : std::map<std::string, std::string>{
+             {"top.v", "\toutput [5:0]  y;\n"}, {"top.vhd", "\t\ty\t:\tOUT  STD_LOGIC_VECTOR(5 DOWNTO 0)\n"}}) {
+        wrapped top(("LBX_FILE=" + file).c_str());
+        std::ostringstream stream;
+        top.generate_subdesign(stream);
+        EXPECT_NE(file_text(file).find(line), std::string::npos) << file_text(file);
+    }
 }
 
 } // namespace

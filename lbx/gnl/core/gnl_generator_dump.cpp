@@ -94,7 +94,8 @@ void GNL_GENERATOR::dump_hdl(std::ostream & stream)
     if (m_state.vorlan_interface_mode)
         update_vorlan_interface_connections();
     dump_hdl_group_subdesign_slices(this);
-    set_out_of_rtl_body(); // nothing connects any more
+    set_out_of_rtl_body();    // nothing connects any more
+    made_port_connection(""); // nor may anything have connected, and widths be open
     transfer_from_list_to_map();
     set_subdesign_auto_generated_instance_names();
     if (!is_tcl()) {

@@ -58,6 +58,7 @@ void write_qhdl_wrapper(GNL_GENERATOR & wrapped, std::ostream & out)
 
 void GNL_GENERATOR::rtl_body(std::ostream & stream)
 {
+    made_port_connection(""); // nothing connects here, and the sections need the widths
     if (is_verilog())
         write_verilog_wrapper(*this, stream);
     else if (is_vhdl())

@@ -121,6 +121,7 @@ void GNL_GENERATOR::dump_error_messages(std::ostream & out)
 
 void GNL_GENERATOR::dump_error_file(std::ostream & out)
 {
+    made_port_connection(""); // the body may have been given up before its first connection
     if (is_verilog()) {
         out << "module ";
         dump_verilog_module_section(out);
