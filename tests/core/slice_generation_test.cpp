@@ -191,6 +191,92 @@ TEST_F(SliceGeneration, AnOutputThatOnlySomeSlicesHaveIsConnectedThere)
                                                                              "\t.q(wire_u_q[2:2]));\n");
 }
 
+namespace {
+
+/// Writes an array whose design drives its bidirectional ports; slices join `pad` to the top's own, the array as a
+/// whole joins `bus`.
+std::string array_of_pads(std::string const & file)
+{
+    design top(nullptr, "top", ("LBX_FILE=" + file).c_str());
+    auto & a = top.input("a", 2);
+    auto & left = top.bidir("left");
+    auto & right = top.bidir("right");
+    auto & both = top.bidir("both", 2);
+    top.run([&](design & self) {
+        auto & array = self.child("cell", "u", "", 2);
+        array.declare_slice = [](design & slice) {
+            slice.input("d");
+            slice.bidir("bus");
+            slice.bidir("pad");
+        };
+        array.declare_slice(array);
+        array.body = [](design & own) {
+            own.port("pad") = own.port("d");
+            own.port("bus") = !own.port("d");
+        };
+        array.port("d") = a;
+        left = array[0].port("pad");
+        right = array[1].port("pad");
+        both = array.port("bus");
+    });
+    EXPECT_EQ(top.messages(), texts{});
+    return file_text(file);
+}
+
+} // namespace
+
+TEST_F(SliceGeneration, APadOfASliceStaysWithTheSliceWhenTheCommonDesignDrivesIt)
+{
+    auto const entity = "top_" + name_of("cell bus d pad");
+    auto const verilog = array_of_pads("top.v");
+    auto const instances = verilog.rfind("\twire  [1:0]   wire_u_d;\n");
+    ASSERT_NE(instances, std::string::npos) << verilog;
+    EXPECT_EQ(verilog.substr(instances), "\twire  [1:0]   wire_u_d;\n"
+                                         "\n"
+                                         "\t" + entity
+                                             + "   u_0\n"
+                                               "\t( \n"
+                                               "\t.bus(both[0:0]),\n"
+                                               "\t.d(wire_u_d[0:0]),\n"
+                                               "\t.pad(left));\n"
+                                               "\t"
+                                             + entity
+                                             + "   u_1\n"
+                                               "\t( \n"
+                                               "\t.bus(both[1:1]),\n"
+                                               "\t.d(wire_u_d[1:1]),\n"
+                                               "\t.pad(right));\n"
+                                               "\tassign\n"
+                                               "\t\twire_u_d = a;\n"
+                                               "endmodule //top\n"
+                                               "//VALID FILE\n");
+    auto const vhdl = array_of_pads("top.vhd");
+    auto const statements = vhdl.rfind(" BEGIN\n\n");
+    ASSERT_NE(statements, std::string::npos) << vhdl;
+    EXPECT_EQ(vhdl.substr(statements), " BEGIN\n"
+                                       "\n"
+                                       "\twire_u_d <= a;\n"
+                                       "\tu_0 :  "
+                                           + entity
+                                           + "\n"
+                                             "\t  PORT MAP ( \n"
+                                             "\t\tbus => both(0),\n"
+                                             "\t\td => wire_u_d(0),\n"
+                                             "\t\tpad => left\n"
+                                             "\t  );\n"
+                                             "\tu_1 :  "
+                                           + entity
+                                           + "\n"
+                                             "\t  PORT MAP ( \n"
+                                             "\t\tbus => both(1),\n"
+                                             "\t\td => wire_u_d(1),\n"
+                                             "\t\tpad => right\n"
+                                             "\t  );\n"
+                                             "\n"
+                                             " END RTL; --top\n"
+                                             "--VALID FILE\n");
+}
+
 TEST_F(SliceGeneration, AMasterWithoutADesignTakesTheCustomOutputOfItsSlices)
 {
     array_run run("top.v", 2, [](design & array) {

@@ -12,6 +12,7 @@
 #include "lbx/gnl/core/driver_messages.h"
 #include "lbx/gnl/core/element_registry.h"
 #include "lbx/gnl/core/subdesign_names.h"
+#include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/language_text.h"
 
 #include <algorithm>
@@ -127,6 +128,33 @@ void GNL_GENERATOR::generation_run::generate()
         generate_design();
 }
 
+namespace {
+
+/// Whether a subdesign's bidirectional port is connected in the design around it.
+bool is_connected_at(GNL_PORT & port, GNL_GENERATOR const * level)
+{
+    if (static_cast<GNL_PORT_BIDIR const &>(port).is_locked_bidir_port() != 0)
+        return true;
+    return port.get_connection_level() == level && (port.get_driver() != nullptr || port.is_driven_by_constant());
+}
+
+/// The body of the common design marks the array's bidirectional ports as used. Where only the slices connect such a
+/// port, each its own, that must not read as a connection of the array as a whole.
+void leave_bidirs_to_slices(GNL_GENERATOR & array)
+{
+    auto const * level = array.get_parent();
+    array_slices const slices(array);
+    for (GNL_PORT & port : array.registry().ports()) {
+        if (!port.is_bidir() || !port.check_is_used_flag() || is_connected_at(port, level))
+            continue;
+        for (auto * of_slice : slices.ports(port.get_name()))
+            if (of_slice->is_bidir() && is_connected_at(*of_slice, level))
+                port.set_used(false);
+    }
+}
+
+} // namespace
+
 void GNL_GENERATOR::generation_run::generate_design()
 {
     if (m_top)
@@ -142,6 +170,8 @@ void GNL_GENERATOR::generation_run::generate_design()
     settle_name(common_design);
     if (common_design && may_be_written())
         write_design();
+    if (m_generator.is_master_array())
+        leave_bidirs_to_slices(m_generator);
     if (m_top && m_generator.is_append_mode() && is_qhdl() && m_generator.is_supported())
         append_function_header();
 }
