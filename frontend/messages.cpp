@@ -74,12 +74,15 @@ void print_message(std::ostream & out, message const & message, bool coloured)
 std::string exception_text(std::exception_ptr const & thrown)
 {
     try {
-        std::rethrow_exception(thrown);
+        // In a block of its own: clang takes this handler for one of the next kind as well, and warns.
+        try {
+            std::rethrow_exception(thrown);
+        } catch (char * text) {
+            std::unique_ptr<char[]> const owned(text); // the catcher's to free
+            return owned.get();
+        }
     } catch (std::exception const & exception) {
         return exception.what();
-    } catch (char * text) {
-        std::unique_ptr<char[]> const owned(text); // the catcher's to free
-        return owned.get();
     } catch (char const * text) {
         return text;
     } catch (bool) {
