@@ -518,6 +518,15 @@ TEST_F(Driver, AppendingInVhdlTakesTheStemFromTheValue)
     EXPECT_EQ(file_text("chip.vhd"), "--top\n--\n--VALID FILE\n");
 }
 
+TEST_F(Driver, TheMarkForAppendingHasNoCase)
+{
+    design top(nullptr, "top", "LBX_FILE=chip.v:A");
+    top.dump = false;
+    top.run();
+    EXPECT_TRUE(top.is_append_mode());
+    EXPECT_EQ(top.get_entity_name(), "chip_" + name_of("top"));
+}
+
 TEST_F(Driver, AppendingUnderAGivenName)
 {
     design top(nullptr, "top", "LBX_FILE=chip.v:a:core");

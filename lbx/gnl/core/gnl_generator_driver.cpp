@@ -209,7 +209,7 @@ void GNL_GENERATOR::generation_run::settle_append_mode()
     if (!m_generator.option_is_used(option_id::file))
         return;
     auto const value = m_generator.option_value(option_id::file);
-    if (!value.ends_with(":a"))
+    if (value.size() < 2 || !equal_folded(std::string_view(value).substr(value.size() - 2), ":a"))
         return;
     m_generator.set_append_mode();
     // ".v:a", or ".vhd:a" and the like: the stem remains, without its folders, as it stands in names.
