@@ -160,4 +160,36 @@ TEST_F(BlackBox, ABoxedSubdesignIsInstantiatedUnderItsOwnNameAndHasNoBody)
     EXPECT_NE(file_text("top.v").find("\tleaf   u1\n"), std::string::npos);
 }
 
+TEST_F(BlackBox, TheSlicesOfABoxedArrayAreCellsWithTheirParameters)
+{
+    for (std::string const file : {"top.tdf", "top.v"}) {
+        design top(nullptr, "top", ("LBX_FILE=" + file + ",LBX_BLACKBOX_LIST=leaf").c_str());
+        design * array = nullptr;
+        top.run([&](design & self) {
+            array = &self.child("leaf", "u", "", 2);
+            array->declare_slice = [](design & slice) {
+                slice.input("d");
+                slice.integer("DEPTH", 1);
+            };
+            array->declare_slice(*array);
+            (*array)[1].parameter_integer("DEPTH") = 3;
+            array->port("d") = self.input("a", 2);
+        });
+        EXPECT_TRUE((*array)[0].is_primitive());
+        EXPECT_TRUE((*array)[1].is_primitive());
+    }
+    EXPECT_NE(file_text("top.tdf").find("\tu0 : leaf;\n"
+                                        "\tu1 : leaf\n"
+                                        "\t\tWITH (\n"
+                                        "\t\t\tDEPTH = 3\n"
+                                        "\t\t);\n"),
+              std::string::npos)
+        << file_text("top.tdf");
+    EXPECT_NE(file_text("top.v").find("\tdefparam\n"
+                                      "\t\tu_1.depth = 3,\n"
+                                      "\t\tu_1.lpm_type = \"leaf\";\n"),
+              std::string::npos)
+        << file_text("top.v");
+}
+
 } // namespace

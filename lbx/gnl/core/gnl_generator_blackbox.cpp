@@ -19,6 +19,15 @@ bool has_2d_port(GNL_GENERATOR & generator)
     return false;
 }
 
+void for_each_slice(GNL_GENERATOR & array, void (GNL_GENERATOR::*change)())
+{
+    if (!array.is_master_array())
+        return;
+    for (int i = 0; i < array.get_array_width(); ++i)
+        if (auto * slice = array.get_array_slice(i); slice != &array)
+            (slice->*change)();
+}
+
 /// Applies one entry of a black-box list. False when it ends the list: an entry "-name" keeps the design, whatever
 /// follows.
 bool apply_entry(GNL_GENERATOR & generator, std::string const & entry)
@@ -92,6 +101,8 @@ void GNL_GENERATOR::set_blackbox_state()
     set_need_lumenbox_tag(false);
     if (is_vhdl() && has_2d_port(*this))
         set_use_no_vhdl_component_declarations();
+    // Slices that differ are written as cells of their own.
+    for_each_slice(*this, &GNL_GENERATOR::set_blackbox_state);
 }
 
 void GNL_GENERATOR::reset_blackbox_state()
@@ -100,4 +111,5 @@ void GNL_GENERATOR::reset_blackbox_state()
     set_need_lumenbox_tag(true);
     if (is_vhdl())
         m_state.no_vhdl_component_declarations = false;
+    for_each_slice(*this, &GNL_GENERATOR::reset_blackbox_state);
 }
