@@ -61,6 +61,26 @@ TEST_F(Parameter, TrueHiddenIsHiddenToo)
     EXPECT_TRUE(size.is_true_hidden_parameter());
 }
 
+TEST_F(Parameter, AssignedThroughItsBaseTakesTheFlagsAndNoValue)
+{
+    design top(nullptr);
+    GNL_PARAMETER_INTEGER a(&top, "A", 3);
+    GNL_PARAMETER_INTEGER b(&top, "B", 4);
+    b.set_as_hidden_parameter();
+    b.set_as_inherit_allowed();
+    b.set_as_not_included_in_declaration();
+    b = 7;
+    static_cast<GNL_PARAMETER &>(a) = b;
+    EXPECT_TRUE(a.is_hidden_parameter());
+    EXPECT_TRUE(a.is_inherit_allowed());
+    EXPECT_FALSE(a.is_included_in_declaration());
+    EXPECT_TRUE(a.value_changed());
+    EXPECT_EQ(a.get_value(), 3);
+    EXPECT_EQ(a.get_name(), "A");
+    EXPECT_EQ(top.get_parameter_object("A"), &a);
+    EXPECT_EQ(top.get_parameter_object("B"), &b);
+}
+
 TEST_F(Parameter, CopyHasTheFlagsAndIsInNoRegistry)
 {
     auto & size = top.integer("SIZE", 7);

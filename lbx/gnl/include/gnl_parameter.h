@@ -60,6 +60,8 @@ class GNL_PARAMETER : public GNL_ELEMENT
 {
 public:
     GNL_PARAMETER(GNL_PARAMETER const & other);
+    /// Takes the flags and the assigned expression, and no value. A parameter of a design keeps its parent and name.
+    GNL_PARAMETER & operator=(GNL_PARAMETER const & other);
     ~GNL_PARAMETER() override;
 
     bool is_parameter() const final { return true; }
@@ -113,7 +115,6 @@ public:
 
 protected:
     GNL_PARAMETER(GNL_GENERATOR * parent, std::string const & name);
-    GNL_PARAMETER & operator=(GNL_PARAMETER const & other);
 
     /// Brings in what was given earlier: the parent's parameter text, and for a slice the values of its master.
     void settle_earlier_values();
