@@ -63,7 +63,6 @@ TEST_F(Parameter, TrueHiddenIsHiddenToo)
 
 TEST_F(Parameter, AssignedThroughItsBaseTakesTheFlagsAndNoValue)
 {
-    design top(nullptr);
     GNL_PARAMETER_INTEGER a(&top, "A", 3);
     GNL_PARAMETER_INTEGER b(&top, "B", 4);
     b.set_as_hidden_parameter();
