@@ -245,6 +245,7 @@ TEST_F(Arrays, ASliceAsksForTheBitsOfItsOwnOnTheMaster)
         auto & slice = array[1];
         array.port("d").range(3, 2) = a;
         EXPECT_FALSE(slice.check_parent_for_port_assignment("d", 2, 0, 1));
+        EXPECT_FALSE(slice.check_parent_for_port_assignment("d", 2, 1, 0)); // in either order
         EXPECT_TRUE(array[0].check_parent_for_port_assignment("d", 2, 0, 1));
         EXPECT_TRUE(array[2].check_parent_for_port_assignment("d", 2, 0, 1));
         EXPECT_TRUE(slice.check_parent_for_port_assignment("none", 2, 0, 1));

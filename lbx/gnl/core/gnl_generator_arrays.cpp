@@ -193,5 +193,5 @@ bool GNL_GENERATOR::check_parent_for_port_assignment(std::string const & port_na
     if (!port || (m_state.in_rtl_body && port->get_connection_level() != this))
         return true;
     int const first_bit = std::max(slice_width, 1) * m_state.slice_index;
-    return port->check_port_assignment(first_bit + low, first_bit + high);
+    return port->check_port_assignment(first_bit + std::min(low, high), first_bit + std::max(low, high));
 }
