@@ -136,7 +136,7 @@ void write_bits(netlist const & design, text_buffer & out)
 bench::run_result write_and_read_files(int n)
 {
     namespace fs = std::filesystem;
-    auto const folder = fs::temp_directory_path() / ("lbx-floor-" + std::to_string(getpid()));
+    auto const folder = fs::temp_directory_path() / ("lbx-floor-files-" + std::to_string(getpid()));
     fs::create_directory(folder);
     auto const path = [&](int i) { return (folder / ("mg" + std::to_string(i) + ".v")).string(); };
     bench::run_result result;
