@@ -56,4 +56,8 @@ inline void write_file(fs::path const & path, std::string const & text)
     std::ofstream(path, std::ios::binary) << text;
 }
 
+/// The cause of every message about a file that can't be written.
+inline std::string const no_file_cause =
+    "The file cannot be created. The file already exists, and is write-protected, or there is not enough space.";
+
 } // namespace gnl_test

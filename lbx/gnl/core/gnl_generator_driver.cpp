@@ -11,8 +11,8 @@
 #include "lbx/gnl/core/design_file_writer.h"
 #include "lbx/gnl/core/driver_messages.h"
 #include "lbx/gnl/core/element_registry.h"
+#include "lbx/gnl/core/slice_bidirs.h"
 #include "lbx/gnl/core/subdesign_names.h"
-#include "lbx/gnl/writers/array_slices.h"
 #include "lbx/gnl/writers/language_text.h"
 
 #include <algorithm>
@@ -127,33 +127,6 @@ void GNL_GENERATOR::generation_run::generate()
     else
         generate_design();
 }
-
-namespace {
-
-/// Whether a subdesign's bidirectional port is connected in the design around it.
-bool is_connected_at(GNL_PORT & port, GNL_GENERATOR const * level)
-{
-    if (static_cast<GNL_PORT_BIDIR const &>(port).is_locked_bidir_port() != 0)
-        return true;
-    return port.get_connection_level() == level && (port.get_driver() != nullptr || port.is_driven_by_constant());
-}
-
-/// The body of the common design marks the array's bidirectional ports as used. Where only the slices connect such a
-/// port, each its own, that must not read as a connection of the array as a whole.
-void leave_bidirs_to_slices(GNL_GENERATOR & array)
-{
-    auto const * level = array.get_parent();
-    array_slices const slices(array);
-    for (GNL_PORT & port : array.registry().ports()) {
-        if (!port.is_bidir() || !port.check_is_used_flag() || is_connected_at(port, level))
-            continue;
-        for (auto * of_slice : slices.ports(port.get_name()))
-            if (of_slice->is_bidir() && is_connected_at(*of_slice, level))
-                port.set_used(false);
-    }
-}
-
-} // namespace
 
 void GNL_GENERATOR::generation_run::generate_design()
 {

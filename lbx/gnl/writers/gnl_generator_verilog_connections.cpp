@@ -38,7 +38,7 @@ public:
 private:
     void assign_wire(GNL_PORT & wire)
     {
-        if (wire.port_is_a_driver() || wire.declare_port())
+        if (wire.declare_port())
             assign_sink(wire, wire.get_source_name(false), true);
     }
     void assign_sink(GNL_PORT & port, std::string_view target, bool may_take_default)

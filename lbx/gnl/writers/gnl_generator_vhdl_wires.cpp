@@ -100,24 +100,18 @@ private:
         if (is_read_loop_signal(port, m_level))
             declare_loop_signal(m_text, port);
         else if (port.check_is_used_flag())
-            declare_whole(port);
+            declare_connected(port);
         else if (is_left_to_slices(port))
             for (auto * of_slice : m_slices.ports(port.get_name()))
                 if (of_slice->check_is_used_flag())
-                    declare_of_slice(*of_slice);
+                    declare_connected(*of_slice);
     }
-    void declare_whole(GNL_PORT & port)
+    /// The constants of slices are declared behind the signals of the whole array.
+    void declare_connected(GNL_PORT & port)
     {
         declare_signal(port);
-        if (is_constant_input(port))
+        if (is_constant_input(port) && port.get_parent() == &m_subdesign)
             declare_constant(m_text, port, m_signals);
-        if (has_2d_signal(port))
-            declare_2d_signal(m_text, port);
-    }
-    /// Its constants are declared behind the signals of the whole array.
-    void declare_of_slice(GNL_PORT & port)
-    {
-        declare_signal(port);
         if (has_2d_signal(port))
             declare_2d_signal(m_text, port);
     }
