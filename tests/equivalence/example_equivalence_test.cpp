@@ -69,11 +69,7 @@ protected:
 
     static design_text text(setting const & with, fs::path const & folder, std::string const & extension)
     {
-        design_text made{extension == ".vhd" ? language::vhdl : language::verilog, {}, with.first};
-        for (auto const & entry : fs::directory_iterator(folder))
-            if (entry.path().extension() == extension)
-                made.files.push_back(entry.path());
-        return made;
+        return {extension == ".vhd" ? language::vhdl : language::verilog, files_with(folder, extension), with.first};
     }
 
     static design_text translated(setting const & with, fs::path const & folder)
@@ -95,11 +91,7 @@ TEST_F(ExampleEquivalence, AllLanguagesMeanTheSame)
         questions.push_back({name + " VHDL", verilog, text(with, generate(with, i, ".vhd"), ".vhd")});
         questions.push_back({name + " QHDL", verilog, translated(with, generate(with, i, ".tdf"))});
     }
-    fs::create_directory("proof");
-    auto const answers = lbx_proof::prove_equal(questions, "proof");
-    ASSERT_EQ(answers.size(), questions.size());
-    for (std::size_t i = 0; i < answers.size(); ++i)
-        EXPECT_EQ(answers[i].found, verdict::equal) << questions[i].name << ": " << answers[i].reason;
+    expect_equal(questions);
 }
 
 /// The bus adapter drives a bidirectional pad, which the proof cannot judge: its tests simulate it.

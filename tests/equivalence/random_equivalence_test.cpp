@@ -92,11 +92,7 @@ private:
     fs::path folder(std::string const & extension) const { return m_trial.name() + "_" + extension.substr(1); }
     std::vector<fs::path> files(std::string const & in, std::string const & extension) const
     {
-        std::vector<fs::path> found;
-        for (auto const & entry : fs::directory_iterator(folder(in)))
-            if (entry.path().extension() == extension)
-                found.push_back(entry.path());
-        return found;
+        return files_with(folder(in), extension);
     }
 
     trial m_trial;
@@ -136,7 +132,7 @@ class RandomEquivalence : public proof_test, public ::testing::WithParamInterfac
 {
 };
 
-void expect_equal(std::vector<translated_design> const & designs, std::vector<question> const & questions)
+void expect_equal_in_batch(std::vector<translated_design> const & designs, std::vector<question> const & questions)
 {
     fs::create_directory("proof");
     auto const answers = lbx_proof::prove_equal(questions, "proof");
@@ -170,7 +166,7 @@ TEST_P(RandomEquivalence, AllLanguagesMeanTheSame)
     }
     ASSERT_FALSE(designs.empty());
     questions.push_back({"a planted fault", designs.front().verilog(), designs.front().faulty()});
-    expect_equal(designs, questions);
+    expect_equal_in_batch(designs, questions);
 }
 
 INSTANTIATE_TEST_SUITE_P(Batch, RandomEquivalence, ::testing::Range(0, designs_in_a_run / designs_in_a_batch));
